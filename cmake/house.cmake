@@ -1,0 +1,52 @@
+# The flags that every target of the house is built with, and the two functions that make them.
+
+option(TARN_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
+
+set(CMAKE_CXX_FLAGS_RELEASE "-O2")  # checks stay in: there is no NDEBUG here
+set(THREADS_PREFER_PTHREAD_FLAG ON)
+find_package(Threads REQUIRED)
+
+add_library(tarn_flags INTERFACE)
+target_compile_features(tarn_flags INTERFACE cxx_std_20)
+target_include_directories(tarn_flags INTERFACE ${CMAKE_SOURCE_DIR})
+target_link_libraries(tarn_flags INTERFACE Threads::Threads)
+target_compile_options(tarn_flags INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror
+  -fno-exceptions
+  -fmacro-prefix-map=${CMAKE_SOURCE_DIR}/=)  # a failed check prints a path within the project
+if(TARN_SANITIZE)
+  set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=undefined)
+  target_compile_options(tarn_flags INTERFACE -O1 -g -fno-omit-frame-pointer ${sanitizers})
+  target_link_options(tarn_flags INTERFACE ${sanitizers})
+endif()
+if(WIN32)
+  set(TARN_PLATFORM windows)
+else()
+  set(TARN_PLATFORM posix)
+endif()
+
+# tarn_library(NAME USES... SOURCES...): the static library of one folder. USES names the folders
+# that it may include, all of them before it in the order of the house.
+function(tarn_library name)
+  cmake_parse_arguments(arg "" "" "USES;SOURCES" ${ARGN})
+  if(NOT arg_SOURCES)
+    add_library(tarn_${name} INTERFACE)
+    return()
+  endif()
+  add_library(tarn_${name} STATIC ${arg_SOURCES})
+  target_link_libraries(tarn_${name} PUBLIC tarn_flags)
+  foreach(use ${arg_USES})
+    target_link_libraries(tarn_${name} PUBLIC tarn_${use})
+  endforeach()
+endfunction()
+
+# tarn_unittests(NAME USES... SOURCES...): one GoogleTest program for a folder of tests/. Every
+# test case is a ctest of its own, so that one death does not hide the next.
+function(tarn_unittests name)
+  cmake_parse_arguments(arg "" "" "USES;SOURCES" ${ARGN})
+  add_executable(${name}_tests ${CMAKE_SOURCE_DIR}/tests/main.cpp ${arg_SOURCES})
+  target_link_libraries(${name}_tests PRIVATE tarn_flags ${arg_USES} GTest::gtest GTest::gmock)
+  target_compile_options(${name}_tests PRIVATE -fexceptions)
+  gtest_discover_tests(${name}_tests TEST_PREFIX ${name}/ DISCOVERY_TIMEOUT 120
+    PROPERTIES TIMEOUT 600)
+endfunction()

@@ -1,0 +1,12 @@
+// Runs the main work on a very deep stack. Terms of the language nest as deep as their data, a
+// million levels and more, and the parser, the passes and the printer recurse along them.
+#pragma once
+
+namespace tarn {
+
+// Calls work(argument) on a stack of 16 GiB, reserved and not committed, or the largest half, quarter
+// ... of that the system grants; returns when work does. Signals reach the thread that works, and
+// `exit` called there ends the process as usual. Call it once, before anything else.
+void runonbigstack(void (*work)(void*), void* argument);
+
+}  // namespace tarn
