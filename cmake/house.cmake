@@ -10,10 +10,12 @@ add_library(tarn_flags INTERFACE)
 target_compile_features(tarn_flags INTERFACE cxx_std_20)
 target_include_directories(tarn_flags INTERFACE ${CMAKE_SOURCE_DIR})
 target_link_libraries(tarn_flags INTERFACE Threads::Threads)
+file(RELATIVE_PATH uphill ${CMAKE_BINARY_DIR} ${CMAKE_SOURCE_DIR})
 target_compile_options(tarn_flags INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror
   -fno-exceptions
-  -fmacro-prefix-map=${CMAKE_SOURCE_DIR}/=)  # a failed check prints a path within the project
+  -fmacro-prefix-map=${CMAKE_SOURCE_DIR}/=  # a failed check prints a path within the project,
+  -fmacro-prefix-map=${uphill}=)            # behind a compiler cache too
 if(TARN_SANITIZE)
   set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=undefined)
   target_compile_options(tarn_flags INTERFACE -O1 -g -fno-omit-frame-pointer ${sanitizers})
@@ -21,8 +23,14 @@ if(TARN_SANITIZE)
 endif()
 if(WIN32)
   set(TARN_PLATFORM windows)
+  set(TARN_OTHER posix)
+  # C's printf and strtod as the standard has them, whatever the system's runtime does.
+  target_compile_definitions(tarn_flags INTERFACE
+    __USE_MINGW_ANSI_STDIO=1 _WIN32_WINNT=0x0A00 UNICODE _UNICODE)
+  target_link_libraries(tarn_flags INTERFACE ws2_32)
 else()
   set(TARN_PLATFORM posix)
+  set(TARN_OTHER windows)
 endif()
 
 # tarn_library(NAME USES... SOURCES...): the static library of one folder. USES names the folders
@@ -41,9 +49,11 @@ function(tarn_library name)
 endfunction()
 
 # tarn_unittests(NAME USES... SOURCES...): one GoogleTest program for a folder of tests/. Every
-# test case is a ctest of its own, so that one death does not hide the next.
+# test case is a ctest of its own, so that one death does not hide the next. Sources named
+# *_posix_test.cpp and *_windows_test.cpp are built on their platform only.
 function(tarn_unittests name)
   cmake_parse_arguments(arg "" "" "USES;SOURCES" ${ARGN})
+  list(FILTER arg_SOURCES EXCLUDE REGEX "_${TARN_OTHER}_test")
   add_executable(${name}_tests ${CMAKE_SOURCE_DIR}/tests/main.cpp ${arg_SOURCES})
   target_link_libraries(${name}_tests PRIVATE tarn_flags ${arg_USES} GTest::gtest GTest::gmock)
   target_compile_options(${name}_tests PRIVATE -fexceptions)

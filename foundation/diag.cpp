@@ -1,6 +1,7 @@
 // The fatal paths. Nothing here allocates before the words are out.
 #include "foundation/diag.h"
 
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -52,13 +53,16 @@ const DiagStream& operator<<(const DiagStream& stream, int32_t number) {
   return stream;
 }
 
+// errno belongs to the last C builtin of a running program, so it is put back.
 void appendbug(const Str& text) {
+  int kept = errno;
   systemmakedir("/tmp");  // most often it is there already
   FILE* file = fopen("/tmp/both.bug", "a");
   check(file != nullptr);
   check(systemwrite(systemdescriptor(file), text.text(), text.len()));
   check(fclose(file) == 0);
   check(text.len() > 0 && text.at(text.len() - 1) == '\n');
+  errno = kept;
 }
 
 }  // namespace tarn

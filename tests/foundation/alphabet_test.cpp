@@ -3,15 +3,13 @@
 
 #include <gtest/gtest.h>
 
-#include <csignal>
 #include <map>
 #include <set>
 
+#include "tests/support/death.h"
+
 namespace tarn {
 namespace {
-
-#define EXPECT_FAILS(statement) \
-  EXPECT_EXIT(statement, testing::KilledBySignal(SIGABRT), "ASSERTION FAILED:foundation/")
 
 TEST(Alphabet, DigitsHaveTheirValues) {
   const std::map<char, int> values = {{'_', 0},  {'a', 1},  {'r', 18}, {'u', 19}, {'s', 20}, {'t', 21},
@@ -19,9 +17,9 @@ TEST(Alphabet, DigitsHaveTheirValues) {
                                       {'9', 36}, {'A', 37}, {'R', 54}, {'U', 55}, {'S', 56}, {'T', 57},
                                       {'V', 58}, {'W', 59}, {'Z', 60}, {'X', 61}, {'Y', 62}, {'~', 63}};
   for (auto [digit, value] : values) EXPECT_EQ(digitvalue(static_cast<uint8_t>(digit)), value) << digit;
-  EXPECT_FAILS(digitvalue('!'));
-  EXPECT_FAILS(digitvalue(0));
-  EXPECT_FAILS(digitvalue(200));
+  EXPECT_FAILS(digitvalue('!'), "foundation/alphabet");
+  EXPECT_FAILS(digitvalue(0), "foundation/alphabet");
+  EXPECT_FAILS(digitvalue(200), "foundation/alphabet");
 }
 
 TEST(Alphabet, CharactersNameBytes) {
@@ -53,7 +51,7 @@ TEST(Alphabet, OtherModesShiftOrKeep) {
 
 TEST(Alphabet, NamelessCharactersAreFatal) {
   for (uint8_t c : {uint8_t{0}, uint8_t{9}, uint8_t{127}, uint8_t{255}}) {
-    EXPECT_EXIT(nopqchar(2, c), testing::KilledBySignal(SIGABRT), "ASSERTION FAILED:");
+    EXPECT_DIES(nopqchar(2, c));
   }
 }
 
@@ -73,7 +71,7 @@ TEST(Alphabet, BytesHavePrintableCharacters) {
   EXPECT_EQ(charnopq(10), ',');
   EXPECT_EQ(charnopq(31), '[');
   EXPECT_EQ(charnopq(32), '_');
-  EXPECT_EXIT(charnopq(160), testing::KilledBySignal(SIGABRT), "ASSERTION FAILED:");
+  EXPECT_DIES(charnopq(160));
 }
 
 TEST(Alphabet, ListOfBytes) {
@@ -129,9 +127,9 @@ TEST(NameOrder, Byte160RanksByNine) {
 }
 
 TEST(NameOrder, TakesNamesOnly) {
-  EXPECT_FAILS(namebefore("1", "a"));
-  EXPECT_FAILS(namebefore("a", ""));
-  EXPECT_FAILS(namebefore("[+]", "a"));
+  EXPECT_FAILS(namebefore("1", "a"), "foundation/alphabet");
+  EXPECT_FAILS(namebefore("a", ""), "foundation/alphabet");
+  EXPECT_FAILS(namebefore("[+]", "a"), "foundation/alphabet");
 }
 
 }  // namespace

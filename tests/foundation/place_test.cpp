@@ -3,13 +3,10 @@
 
 #include <gtest/gtest.h>
 
-#include <csignal>
+#include "tests/support/death.h"
 
 namespace tarn {
 namespace {
-
-#define EXPECT_FAILS(statement) \
-  EXPECT_EXIT(statement, testing::KilledBySignal(SIGABRT), "ASSERTION FAILED:foundation/")
 
 TEST(Place, FiveDigits) {
   EXPECT_EQ(placename(0), Str("_____"));
@@ -19,15 +16,15 @@ TEST(Place, FiveDigits) {
   EXPECT_EQ(placename(64), Str("___a_"));
   EXPECT_EQ(placename(0x3fffffff), Str("~~~~~"));
   EXPECT_EQ(placename(0x40000000), Str("!!!!!"));
-  EXPECT_FAILS(placename(-1));
-  EXPECT_FAILS(placename(0x40000001));
+  EXPECT_FAILS(placename(-1), "foundation/place");
+  EXPECT_FAILS(placename(0x40000001), "foundation/place");
 }
 
 TEST(Place, ReadsNoneBack) {
   for (const char* field : {"_____", "____b", "____", "", "~~~~~", "toolong", "foo", "a!!!!"}) {
     EXPECT_EQ(placevalue(field), -1) << field;
   }
-  EXPECT_FAILS(placevalue("!!!!!"));
+  EXPECT_FAILS(placevalue("!!!!!"), "foundation/alphabet");
 }
 
 }  // namespace

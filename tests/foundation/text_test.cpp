@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include <csignal>
+#include "tests/support/death.h"
 
 namespace tarn {
 namespace {
@@ -23,8 +23,8 @@ TEST(Text, WordsOfFourBytes) {
   EXPECT_EQ(str4(0), Str("\0\0\0\0", 4));
   EXPECT_EQ(word4(str4(0xfedcba98u)), 0xfedcba98u);
   EXPECT_EQ(word4(str4(7)), 7u);
-  EXPECT_EXIT(word4("abc"), testing::KilledBySignal(SIGABRT), "ASSERTION FAILED:foundation/text.cpp:");
-  EXPECT_EXIT(word4("abcde"), testing::KilledBySignal(SIGABRT), "ASSERTION FAILED:foundation/text.cpp:");
+  EXPECT_FAILS(word4("abc"), "foundation/text.cpp");
+  EXPECT_FAILS(word4("abcde"), "foundation/text.cpp");
 }
 
 }  // namespace

@@ -1,0 +1,18 @@
+# Toolchain: MinGW-w64 (its posix variant, which has all of the standard library) on Linux, for
+# programs that need no DLL beside the system's own. Tests run through wine where there is one.
+set(CMAKE_SYSTEM_NAME Windows)
+set(CMAKE_SYSTEM_PROCESSOR x86_64)
+set(triplet x86_64-w64-mingw32)
+find_program(CMAKE_C_COMPILER NAMES ${triplet}-gcc-posix REQUIRED)
+find_program(CMAKE_CXX_COMPILER NAMES ${triplet}-g++-posix REQUIRED)
+find_program(CMAKE_RC_COMPILER NAMES ${triplet}-windres)
+set(CMAKE_FIND_ROOT_PATH /usr/${triplet})
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
+set(CMAKE_EXE_LINKER_FLAGS_INIT "-static")
+find_program(wine NAMES wine wine64)
+if(wine)
+  set(CMAKE_CROSSCOMPILING_EMULATOR ${wine})
+endif()

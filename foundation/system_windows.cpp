@@ -1,0 +1,25 @@
+// The low-level calls on Windows.
+#include <direct.h>
+#include <io.h>
+
+#include "foundation/system.h"
+
+namespace tarn {
+
+bool systemwrite(int fd, const void* bytes, int64_t n) {
+  constexpr int64_t most = 1 << 30;  // the count is an unsigned int there
+  const char* at = static_cast<const char*>(bytes);
+  while (n > 0) {
+    int done = _write(fd, at, static_cast<unsigned>(n < most ? n : most));
+    if (done < 0) return false;
+    at += done;
+    n -= done;
+  }
+  return true;
+}
+
+bool systemmakedir(const char* path) { return _mkdir(path) == 0; }
+
+int systemdescriptor(FILE* file) { return _fileno(file); }
+
+}  // namespace tarn
