@@ -1,0 +1,79 @@
+// The blocks behind the cells.
+#include "graph/cellstore.h"
+
+#include <cstdlib>
+
+namespace tarn {
+
+CellStore cellstore = {};
+
+constexpr int64_t RECORD = 24;
+constexpr int64_t BLOCK = 4096 * RECORD;
+
+#ifdef __SANITIZE_ADDRESS__
+
+void* storefresh() {
+  cellstore.room++;
+  return malloc(RECORD);
+}
+
+void storegiveback(void* r) {
+  cellstore.room--;
+  free(r);
+}
+
+#else
+
+void* storefresh() {
+  static char* at = nullptr;
+  static char* end = nullptr;
+  if (at == end) {
+    at = static_cast<char*>(malloc(BLOCK));
+    end = at + BLOCK;
+  }
+  cellstore.room++;
+  void* r = at;
+  at += RECORD;
+  return r;
+}
+
+#endif
+
+// The hidden word, the header, the text and its NUL; all ones where that wraps, so that malloc
+// refuses. An array of n bytes gets one byte more than it needs: it reads as the text "\n" then.
+static size_t leafblock(int64_t n) {
+  size_t size = 0;
+  return __builtin_add_overflow(static_cast<size_t>(n), size_t{17}, &size) ? SIZE_MAX : size;
+}
+
+Cell* storeleaf(int64_t n) {
+  if (n <= CELLSHORTTEXT) {
+    uint64_t* r = static_cast<uint64_t*>(storerecord());
+    r[0] = CELLSHORT;
+    return reinterpret_cast<Cell*>(r + 1);
+  }
+  cellstore.made++;
+  cellstore.longs++;
+  if (cellstore.longs > cellstore.longest) cellstore.longest = cellstore.longs;
+  uint64_t* block = static_cast<uint64_t*>(malloc(leafblock(n)));
+  block[0] = 0;
+  return reinterpret_cast<Cell*>(block + 1);
+}
+
+void storefreeleaf(Cell* c) {
+  cellstore.freed++;
+  if (istodo(c)) cellstore.todos--;
+  void* block = c - 1;
+  if ((leafhint(c) & CELLSHORT) != 0) {
+    storegiveback(block);
+  } else {
+    cellstore.longs--;
+    free(block);
+  }
+}
+
+CellCounts cellcounts() {
+  return {cellstore.made, cellstore.made - cellstore.freed, cellstore.room + cellstore.longest};
+}
+
+}  // namespace tarn

@@ -1,0 +1,71 @@
+// Where cells come from and go to: a free list of 24-byte records, filled a block at a time, for
+// all Pairs and the short leaves, and malloc for the longer leaves. For the files of graph/ that
+// make and free cells; all others use the makers of cell.h.
+//
+//   Pair        header, left, right
+//   short leaf  hidden word, header, up to 7 bytes of text and their NUL
+//
+// Under an address checker each record is a block of malloc of its own, so that a use after the
+// last reference is found.
+#pragma once
+
+#include <cstdint>
+
+#include "graph/cell.h"
+
+namespace tarn {
+
+struct CellStore {
+  void** free;     // records given back, each holding the address of the next; null: none
+  int64_t made;    // cells ever made
+  int64_t freed;   // cells ever freed
+  int64_t room;    // records that the blocks hold, less those never used: most in use at once
+  int64_t longs;   // long leaves alive
+  int64_t longest; // most long leaves alive at once
+  int64_t todos;   // leaves alive with the text "todo": while there is none, nobody looks for them
+};
+extern CellStore cellstore;
+
+constexpr uint64_t CELLSHORT = 1;     // in the hidden word: the leaf is a record of the store
+constexpr int64_t CELLSHORTTEXT = 7;  // most bytes of text in one
+
+void* storefresh();           // a record never used before
+void storegiveback(void* r);  // r can be handed out again
+
+inline void* storerecord() {
+  cellstore.made++;
+  void** r = cellstore.free;
+  if (r == nullptr) return storefresh();
+  cellstore.free = static_cast<void**>(*r);
+  return r;
+}
+
+// A Pair with that header, taking over the references that the caller holds to both links.
+inline Cell* storepair(Cell* left, Cell* right, uint64_t header) {
+  Cell* c = static_cast<Cell*>(storerecord());
+  c->header = header;
+  leftlink(c) = left;
+  rightlink(c) = right;
+  return c;
+}
+inline void storefreepair(Cell* c) {
+  cellstore.freed++;
+  storegiveback(c);
+}
+
+Cell* storeleaf(int64_t n);     // for n bytes of text and a NUL; nothing is set but the hidden word
+void storefreeleaf(Cell* c);
+
+#ifndef __SANITIZE_ADDRESS__
+inline void storegiveback(void* r) {
+  *static_cast<void**>(r) = cellstore.free;
+  cellstore.free = static_cast<void**>(r);
+}
+#endif
+
+// A leaf with exactly that text.
+inline bool istodo(const Cell* c) {
+  return cellbyte(c) == 't' && strcmp(reinterpret_cast<const char*>(leafbytes(c)), "todo") == 0;
+}
+
+}  // namespace tarn

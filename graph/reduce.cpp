@@ -1,0 +1,2 @@
+// The abstract machine.
+#include "graph/reduce.h"
