@@ -69,6 +69,14 @@ Definition* definitionlookup(Cell* leaf) {
   return d;
 }
 
+// Two parameters, and the second applied to the first.
+static bool isflip(const Definition* d) {
+  if (d->arity != 2 || d->letters[0] == d->letters[1] || d->builtin != nullptr) return false;
+  if (cellisleaf(d->body)) return false;
+  return leafisbyte(leftlink(d->body), static_cast<char>(d->letters[1])) &&
+         leafisbyte(rightlink(d->body), static_cast<char>(d->letters[0]));
+}
+
 void definitionlearn(Definition* d) {
   Cell* body = d->term;
   int n = 0;
@@ -78,6 +86,7 @@ void definitionlearn(Definition* d) {
   }
   d->arity = static_cast<uint8_t>(n);
   d->body = body;
+  d->flips = isflip(d);
   d->known = true;
 }
 

@@ -28,6 +28,7 @@ struct Definition {
   uint8_t arity;                      // number of leading abstractions, at most 11
   uint8_t letters[DEFINITIONPARAMS];  // their variables, outermost first; 0 behind the last
   Cell* body;                         // what is below them; lent by term
+  bool flips;                         // term is `\a\b (b a)`, for two letters, and no builtin
 };
 
 // From name to record, of exactly those that have a term, in the byte order of Str. The key "" is
