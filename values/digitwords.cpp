@@ -1,0 +1,179 @@
+// Product by column sums and quotient by trial words, both as on paper, with eight digits for one.
+#include "values/digitwords.h"
+
+#include <algorithm>
+
+#include "foundation/diag.h"
+#include "values/digitrow.h"
+
+namespace tarn {
+
+constexpr uint64_t WORDBASE = 100000000;
+constexpr int64_t SETTLEROWS = 1800;  // rows of products that a column sum has room for
+
+// --- Between digits and words --------------------------------------------------------------------
+
+// The value of eight digits: neighbours are joined to pairs, pairs to fours, fours to the eight.
+static uint32_t parseword(uint64_t digits) {
+  uint64_t v = __builtin_bswap64(digits) - 0x3030303030303030u;
+  v = (v * 10 + (v >> 8)) & 0x00FF00FF00FF00FFu;
+  v = (v * 100 + (v >> 16)) & 0x0000FFFF0000FFFFu;
+  return static_cast<uint32_t>(v * 10000 + (v >> 32));
+}
+
+// The same the other way: 10486 / 2^20 and 103 / 2^10 stand for a division by 100 and by 10.
+static uint64_t formatword(uint32_t word) {
+  uint64_t fours = word / 10000 | static_cast<uint64_t>(word % 10000) << 32;
+  uint64_t high = ((fours * 10486) >> 20) & 0x0000007F0000007Fu;
+  uint64_t pairs = high | (fours - 100 * high) << 16;
+  uint64_t tens = ((pairs * 103) >> 10) & 0x000F000F000F000Fu;
+  uint64_t digits = tens | (pairs - 10 * tens) << 8;
+  return __builtin_bswap64(digits | 0x3030303030303030u);
+}
+
+static void trim(DigitWords& words) {
+  while (!words.empty() && words.back() == 0) words.pop_back();
+}
+
+DigitWords wordsofrow(const uint8_t* row, int64_t n) {
+  DigitWords words(static_cast<size_t>((n + 7) / 8));
+  uint32_t* out = words.data();
+  for (; n >= 8; n -= 8, row += 8) *out++ = parseword(loadword(row));
+  if (n > 0) {
+    uint64_t last = 0x3030303030303030u;
+    memcpy(&last, row, static_cast<size_t>(n));
+    *out = parseword(last);
+  }
+  trim(words);
+  return words;
+}
+
+void rowofwords(uint8_t* row, const DigitWords& words) {
+  for (uint32_t word : words) {
+    storeword(row, formatword(word));
+    row += 8;
+  }
+}
+
+// --- Product -------------------------------------------------------------------------------------
+
+static void addrow(uint64_t* columns, const uint32_t* a, size_t n, uint32_t b) {
+  for (size_t i = 0; i < n; i++) columns[i] += static_cast<uint64_t>(a[i]) * b;
+}
+
+static void settle(uint64_t* columns, size_t n) {
+  uint64_t carry = 0;
+  for (size_t i = 0; i < n; i++) {
+    uint64_t sum = columns[i] + carry;
+    carry = sum / WORDBASE;
+    columns[i] = sum % WORDBASE;
+  }
+}
+
+DigitWords wordsproduct(const DigitWords& a, const DigitWords& b) {
+  if (a.size() < b.size()) return wordsproduct(b, a);
+  std::vector<uint64_t> columns(a.size() + b.size());
+  for (size_t j = 0; j < b.size(); j++) {
+    addrow(columns.data() + j, a.data(), a.size(), b[j]);
+    if (j % SETTLEROWS == SETTLEROWS - 1) settle(columns.data(), columns.size());
+  }
+  settle(columns.data(), columns.size());
+  DigitWords product(columns.begin(), columns.end());
+  trim(product);
+  return product;
+}
+
+// --- Quotient ------------------------------------------------------------------------------------
+
+// Gives a / b and leaves the remainder in a.
+static uint32_t divideshort(DigitWords& a, uint32_t b) {
+  uint64_t rest = 0;
+  for (size_t i = a.size(); i-- > 0;) {
+    rest = rest * WORDBASE + a[i];
+    a[i] = static_cast<uint32_t>(rest / b);
+    rest %= b;
+  }
+  return static_cast<uint32_t>(rest);
+}
+
+static void scale(DigitWords& a, uint32_t factor) {
+  uint64_t carry = 0;
+  for (uint32_t& word : a) {
+    carry += static_cast<uint64_t>(word) * factor;
+    word = static_cast<uint32_t>(carry % WORDBASE);
+    carry /= WORDBASE;
+  }
+  a.push_back(static_cast<uint32_t>(carry));
+}
+
+// Takes q times b from the n + 1 words at a; gives true if that was too much, a is too low then by
+// the base to the power of n + 1.
+static bool takemultiple(uint32_t* a, const uint32_t* b, size_t n, uint64_t q) {
+  uint64_t carry = 0;
+  for (size_t i = 0; i < n; i++) {
+    carry += q * b[i];
+    uint64_t high = carry / WORDBASE;
+    uint64_t low = carry - high * WORDBASE;
+    uint64_t borrow = a[i] < low;
+    a[i] = static_cast<uint32_t>(a[i] + borrow * WORDBASE - low);
+    carry = high + borrow;
+  }
+  bool toomuch = a[n] < carry;
+  a[n] = static_cast<uint32_t>(a[n] + (toomuch ? WORDBASE : 0) - carry);
+  return toomuch;
+}
+
+static void addback(uint32_t* a, const uint32_t* b, size_t n) {
+  uint32_t carry = 0;
+  for (size_t i = 0; i < n; i++) {
+    uint32_t sum = a[i] + b[i] + carry;
+    carry = sum >= WORDBASE;
+    a[i] = static_cast<uint32_t>(sum - carry * WORDBASE);
+  }
+  a[n] = static_cast<uint32_t>((a[n] + carry) % WORDBASE);
+}
+
+// The word by which b goes into the n + 1 words at a, guessed from the two top words of b and then
+// at most one too high; b's top word is at least half the base.
+static uint64_t guess(const uint32_t* a, const uint32_t* b, size_t n) {
+  uint64_t top = a[n] * WORDBASE + a[n - 1];
+  uint64_t q = std::min(top / b[n - 1], WORDBASE - 1);
+  uint64_t rest = top - q * b[n - 1];
+  while (rest < WORDBASE && q * b[n - 2] > rest * WORDBASE + a[n - 2]) {
+    q--;
+    rest += b[n - 1];
+  }
+  return q;
+}
+
+DigitWords wordsquotient(DigitWords& a, const DigitWords& b) {
+  check(!b.empty());
+  if (a.size() < b.size()) return {};
+  if (b.size() == 1) {
+    DigitWords quotient = a;
+    a = {divideshort(quotient, b[0])};
+    trim(a);
+    trim(quotient);
+    return quotient;
+  }
+  size_t n = b.size();
+  uint32_t factor = static_cast<uint32_t>(WORDBASE / (b.back() + 1));
+  DigitWords divisor = b;
+  scale(divisor, factor);  // the new top word is 0
+  scale(a, factor);
+  DigitWords quotient(a.size() - n);
+  for (size_t j = quotient.size(); j-- > 0;) {
+    uint64_t q = guess(a.data() + j, divisor.data(), n);
+    if (takemultiple(a.data() + j, divisor.data(), n, q)) {
+      addback(a.data() + j, divisor.data(), n);
+      q--;
+    }
+    quotient[j] = static_cast<uint32_t>(q);
+  }
+  divideshort(a, factor);
+  trim(a);
+  trim(quotient);
+  return quotient;
+}
+
+}  // namespace tarn
