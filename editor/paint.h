@@ -1,0 +1,54 @@
+// The painter of texts. Row 0 is the status row; below it stands the text from `top` on, wrapped at
+// the width. The colours tell the class of a byte, the state of the sheet and the selection.
+//
+// While more keys wait, a paint would be overwritten at once and is left out: every painter first
+// has its effects on the state, then asks deferpaint(), and lays out its grid only if that is false.
+#pragma once
+
+#include <cstdint>
+
+#include "editor/grid.h"
+#include "foundation/str.h"
+
+namespace tarn {
+
+// The classes of bytes.
+enum : int32_t { classred = 1, classgreen = 2, classyellow = 3 };
+
+int32_t byteclass(uint8_t byte);
+uint8_t byteglyph(uint8_t byte);  // 0x21 to 0x7E
+
+// The foreground of a class in a state of the sheet. Any other class ends the program ("pinkfore").
+uint32_t pinkfore(bool changed, bool overwrite, int32_t byteclass);
+
+// The cell of a byte: in the colours of the current sheet's state or, with statusrow, of the lists.
+Cell16 pinkcell(bool selected, bool changedbyte, bool statusrow, uint8_t byte);
+
+// The cell of empty space under the same choice.
+Cell16 pinkblank(bool selected, bool statusrow);
+
+// Draws row 0: the word, four characters, the ink cell, and `stat` from `statshift` on. The words
+// "Open", "Save" and "Tabs" have the colours of the lists.
+void paintword(const char* word);
+
+// Paints the text of the current sheet, the word and the cursor at the point, which must be in
+// the window.
+void paintsheet(const char* word);
+
+// The painter of the plain state.
+void paintfile();
+
+// True if the paint is to be left out, because more keys wait or a replayed key comes next. It is
+// then owed, and runs as soon as the keys have run dry.
+bool deferpaint();
+
+// Runs `repaint` if a paint is owed.
+void paintowed();
+
+// Whether a paint is owed: what the screen shows is then not the last state.
+bool owespaint();
+
+// While held, every painter defers.
+void holdpaint(bool held);
+
+}  // namespace tarn

@@ -1,0 +1,32 @@
+// Names of files. Buffers are named by absolute paths with forward slashes, such as "/a/b.txt", so
+// that a file is open once.
+#pragma once
+
+#include "foundation/str.h"
+
+namespace tarn {
+
+// The absolute path of a file. "~/" in front stands for `home`, a relative path starts at `cwdpath`;
+// segments "", "." and ".." are worked out. A text that is empty or ends in "/" is a failure. Empty
+// where ".." climbs to the root itself or above it.
+Str normalise(Str text);
+
+// The same for a directory, which may end in "/"; the result ends in "/".
+Str normalisedir(Str text);
+
+bool isdir(const Str& path);   // an existing directory
+bool isfile(const Str& path);  // an existing regular file
+
+// The directory of a file: the path up to and with its last "/".
+Str parentdir(Str path);
+
+// The user's home directory, ending in "/"; "/" where there is none.
+Str findhome();
+
+// The working directory, ending in "/". One that has no absolute path is a failure.
+Str findcwd();
+
+// Writes the message to descriptor 1 and ends the process with status 1.
+[[noreturn]] void bail(const Str& message);
+
+}  // namespace tarn

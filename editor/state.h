@@ -1,0 +1,54 @@
+// The state of the editor: plain globals that live for the whole run. One session edits in one
+// window, so there is one of each; the texts themselves are in `sheets` (sheet.h), the shown cells in
+// the grids (grid.h).
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "foundation/str.h"
+
+namespace tarn {
+
+// A painter puts the whole present state on the screen (paint.h). One belongs to each mode.
+using Painter = void (*)();
+
+// The keys.
+extern Str line;         // keys read and not yet consumed; whole keys whenever a command runs
+extern Painter repaint;  // the painter of the present mode; paintfile in the plain state
+extern bool suppressed;  // a command runs from within another: nobody paints until the outer ends
+extern bool painted;     // set by a command that brought the screen up to date all by itself
+extern bool showsfault;  // the mode of Vows shows a fault: the next key leaves it, then acts
+extern bool killchain;   // the next C-k starts `clip` afresh; set by every command but C-k
+
+// The status row.
+extern Str stat;           // the status text, and the field of every prompt
+extern int64_t statshift;  // the first byte of `stat` shown, 0 or more
+
+// Editing.
+extern Str currentname;  // the buffer on the screen, a key of `sheets`
+extern Str clip;         // the cut buffer, one for all buffers
+extern int64_t mark;     // where the selection starts, -1 for no selection; the point ends it
+extern int32_t inkmode;  // the class of typed bytes: 1 red, 2 green, 3 yellow
+extern uint64_t kink;    // the palette, see kink.h
+
+// The window, in cells, the status row counted.
+extern int64_t width;
+extern int64_t height;
+
+// The surroundings, set once at the start.
+extern Str home;           // what "~/" stands for; begins and ends with "/"
+extern Str cwdpath;        // the working directory; begins and ends with "/"
+extern Str dotname;        // ".", the name of the scratch buffer
+extern int64_t starttime;  // seconds, the seed of the temporary names
+
+// The lists of the buffer list and of the file prompts: one prompt at a time owns them.
+extern std::vector<Str> entries;  // the names listed, in the order shown
+extern int64_t widest;            // the longest of them, in bytes
+extern int64_t selected;          // the row or entry picked; its meaning is the prompt's own
+extern int64_t entryshift;        // the first byte of each name shown
+extern Str chooserdir;            // the directory listed, with "/" at its end; in Swap the old text
+
+extern int64_t origin;  // the point at the start of a search
+
+}  // namespace tarn

@@ -1,0 +1,22 @@
+// The status text, the bell, and the two ways out of a prompt.
+#pragma once
+
+#include "foundation/str.h"
+
+namespace tarn {
+
+// Sets `stat`, scrolled so that the tail of a long text shows.
+void setstat(const Str& text);
+
+// The bell: a request that cannot be done.
+void chirp();
+
+// Back to the plain state: the buffer's name in the status row, no pending keys, `repaint` is
+// paintfile. Nothing is painted, as dispatch does that behind every command.
+void leave();
+
+// Leaves the prompt and lets the key just read, the last whole key of `line`, act as it does in the
+// plain state.
+void replay();
+
+}  // namespace tarn
