@@ -56,16 +56,26 @@ CellRef cellapply4(Cell* a, Cell* b, Cell* c, Cell* d, Cell* e) {
 
 static bool storeslength(uint8_t first) { return (first >= '0' && first <= '9') || first == '['; }
 
-CellRef leafmade(const void* bytes, int64_t n) {
-  Cell* c = storeleaf(n);
-  uint8_t* text = leafbytes(c);
-  if (n != 0) memcpy(text, bytes, static_cast<size_t>(n));
-  text[n] = 0;
+static CellRef leafheaded(Cell* c, int64_t n) {
+  leafbytes(c)[n] = 0;
   c->header = CELLLEAF | 1;
   uint64_t length = static_cast<uint64_t>(n);
-  if (storeslength(text[0]) && length < CELLFIELDLIMIT) setfield(c, length);
-  if (istodo(c)) cellstore.todos++;
+  if (storeslength(leafbytes(c)[0]) && length < CELLFIELDLIMIT) setfield(c, length);
   return CellRef::adopt(c);
+}
+
+CellRef leafmade(const void* bytes, int64_t n) {
+  Cell* c = storeleaf(n);
+  if (n != 0) memcpy(leafbytes(c), bytes, static_cast<size_t>(n));
+  CellRef made = leafheaded(c, n);
+  if (istodo(c)) cellstore.todos++;
+  return made;
+}
+
+CellRef leafsized(uint8_t first, int64_t n) {
+  Cell* c = storeleaf(n);
+  leafbytes(c)[0] = first;
+  return leafheaded(c, n);
 }
 
 CellRef leafempty() { return leafmade("", 0); }
@@ -93,13 +103,14 @@ CellRef leafdigits(uint64_t n) {
 
 CellRef craynew(int64_t slots) {
   check(slots >= 0);
-  check(static_cast<uint64_t>(slots) < CELLFIELDLIMIT);
-  int64_t n = 8 * slots + 1;  // and a NUL, so that the text of an empty array ends
+  int64_t n = 0;  // and a NUL, so that the text of an empty array ends
+  if (__builtin_mul_overflow(slots, 8, &n)) n = INT64_MAX - 64;
+  n++;
   Cell* c = storeleaf(n);
   memset(leafbytes(c), 0, static_cast<size_t>(n) + 1);
   leafbytes(c)[0] = '\n';
   c->header = CELLLEAF | 1;
-  setfield(c, static_cast<uint64_t>(slots));
+  setfield(c, static_cast<uint64_t>(slots) % CELLFIELDLIMIT);
   return CellRef::adopt(c);
 }
 

@@ -176,11 +176,16 @@ CellRef leafcstr(const char* text);             // up to the NUL; null is a prog
 CellRef leafstr(Str text);                      // may hold NULs
 CellRef leafbyte(uint8_t byte);                 // that one byte
 CellRef leafmade(const void* bytes, int64_t n); // n bytes, copied
+// n bytes, 1 or more, of which only the first is set, as it tells the form, and the NUL behind them.
+// Not for names.
+CellRef leafsized(uint8_t first, int64_t n);
 CellRef leafdigits(uint64_t n);                 // a digit leaf of n in decimal
 
 // --- Arrays --------------------------------------------------------------------------------------
 
-CellRef craynew(int64_t slots);               // all slots null; slots below 0x4000000
+// All slots null. A count of 0x4000000 or more keeps its low 26 bits in the header: the slots above
+// them are there, but nothing reads or releases them. One beyond all memory fails in malloc.
+CellRef craynew(int64_t slots);
 inline int64_t crayslots(const Cell* c) { return static_cast<int64_t>(cellfield(c)); }
 Cell* crayslot(const Cell* c, int64_t i);     // lends; null where empty; i is not tested
 void crayfill(Cell* c, int64_t i, CellRef v); // takes v, which may be null; drops what was there
