@@ -1,0 +1,193 @@
+// The comparisons, by kind. Within this file an answer is a Verdict, which becomes a leaf at the
+// end; that saves a cell for each element of an array.
+#include "values/compare.h"
+
+#include "values/answer.h"
+#include "values/coerce.h"
+#include "values/cray.h"
+#include "values/hint.h"
+#include "values/kinds.h"
+#include "values/post.h"
+#include "values/zits.h"
+
+namespace tarn {
+
+namespace {
+
+enum Verdict { NO, YES, FAILED };  // H, K, Z
+
+using Comparison = Verdict (*)(Cell* x, Cell* y);
+
+// What one operator does with two values of one kind.
+using Comparisons = Comparison[kinds];
+
+}  // namespace
+
+static Verdict verdict(bool holds) { return holds ? YES : NO; }
+
+static Verdict opposite(Verdict v) {
+  if (v == FAILED) return FAILED;
+  return v == YES ? NO : YES;
+}
+
+static CellRef answered(Verdict v) { return v == FAILED ? failure() : truthleaf(v == YES); }
+
+static Verdict less(Cell* x, Cell* y);
+static Verdict gteq(Cell* x, Cell* y);
+static Verdict same(Cell* x, Cell* y);
+static Verdict diff(Cell* x, Cell* y);
+
+static Verdict failed(Cell*, Cell*) { return FAILED; }
+
+// --- Void: by the order of terms -----------------------------------------------------------------
+
+static Verdict voidless(Cell* x, Cell* y) { return verdict(termorder(x, y) == 1); }
+static Verdict voidgteq(Cell* x, Cell* y) { return verdict(termorder(x, y) < 1); }
+
+// --- Posts and zits: by their bytes --------------------------------------------------------------
+
+static int postorder(Cell* x, Cell* y) { return bytescompare(postbytes(x), postbytes(y)); }
+
+static int zitsorder(Cell* x, Cell* y) {
+  CellRef a = zitsflat(x);
+  CellRef b = zitsflat(y);
+  return bytescompare(flatcontent(a), flatcontent(b));
+}
+
+static Verdict postless(Cell* x, Cell* y) { return verdict(postorder(x, y) < 0); }
+static Verdict postgteq(Cell* x, Cell* y) { return verdict(postorder(x, y) >= 0); }
+static Verdict postsame(Cell* x, Cell* y) { return verdict(bytesequal(postbytes(x), postbytes(y))); }
+static Verdict zitsless(Cell* x, Cell* y) { return verdict(zitsorder(x, y) < 0); }
+static Verdict zitsgteq(Cell* x, Cell* y) { return verdict(zitsorder(x, y) >= 0); }
+static Verdict zitssame(Cell* x, Cell* y) { return verdict(zitsorder(x, y) == 0); }
+
+// --- Numbers -------------------------------------------------------------------------------------
+
+// A list of truth values that is no number fails whatever it is compared with.
+static bool arenumbers(Cell* x, Cell* y) { return isnumber(x) && isnumber(y); }
+
+template <bool (*holds)(Cell*, Cell*)>
+static Verdict ofnumbers(Cell* x, Cell* y) {
+  return arenumbers(x, y) ? verdict(holds(x, y)) : FAILED;
+}
+
+// By the digits as they stand: two texts of one number are the same.
+static bool numbersame(Cell* x, Cell* y) {
+  if (cellispair(x) || cellispair(y)) return hinttext(x) == hinttext(y);
+  return bytesequal({leafbytes(x), cellsize(x)}, {leafbytes(y), cellsize(y)});
+}
+
+// --- Arrays: element by element ------------------------------------------------------------------
+//
+// An empty slot compares as a leaf Z; two slots that are one cell, or both empty, are passed over.
+
+namespace {
+
+struct Elements {
+  CellRef a;
+  CellRef b;
+
+  Elements(const Cell* x, const Cell* y, int64_t i) : a(crayget(x, i)), b(crayget(y, i)) {}
+};
+
+}  // namespace
+
+static bool oneslot(const Cell* x, const Cell* y, int64_t i) {
+  return crayslot(x, i) == crayslot(y, i);
+}
+
+static int64_t shorterslots(const Cell* x, const Cell* y) {
+  return crayslots(x) < crayslots(y) ? crayslots(x) : crayslots(y);
+}
+
+// On purpose: the elements' `same` looks at them the other way round, and a failure of it goes on to
+// the next elements.
+static Verdict crayless(Cell* x, Cell* y) {
+  for (int64_t i = 0; i < shorterslots(x, y); i++) {
+    if (oneslot(x, y, i)) continue;
+    Elements at(x, y, i);
+    Verdict lower = less(at.a, at.b);
+    if (lower != NO) return lower;
+    if (same(at.b, at.a) == NO) return NO;
+  }
+  return verdict(crayslots(x) < crayslots(y));
+}
+
+static Verdict craygteq(Cell* x, Cell* y) {
+  for (int64_t i = 0; i < shorterslots(x, y); i++) {
+    if (oneslot(x, y, i)) continue;
+    Elements at(x, y, i);
+    Verdict equal = same(at.a, at.b);
+    if (equal == FAILED) return FAILED;
+    if (equal == NO) return gteq(at.a, at.b);
+  }
+  return verdict(crayslots(x) >= crayslots(y));
+}
+
+static Verdict craysame(Cell* x, Cell* y) {
+  if (crayslots(x) != crayslots(y)) return NO;
+  for (int64_t i = 0; i < crayslots(x); i++) {
+    if (oneslot(x, y, i)) continue;
+    Elements at(x, y, i);
+    Verdict equal = same(at.a, at.b);
+    if (equal != YES) return equal;
+  }
+  return YES;
+}
+
+static Verdict craydiff(Cell* x, Cell* y) {
+  if (crayslots(x) != crayslots(y)) return YES;
+  for (int64_t i = 0; i < crayslots(x); i++) {
+    if (oneslot(x, y, i)) continue;
+    Elements at(x, y, i);
+    Verdict unequal = diff(at.a, at.b);
+    if (unequal != NO) return unequal;
+  }
+  return NO;
+}
+
+// --- The operators -------------------------------------------------------------------------------
+
+static Verdict less(Cell* x, Cell* y) {
+  constexpr Comparison hint = ofnumbers<hintless>, numb = failed;
+  //                          post      cray      void      hint  numb  real      zits
+  static const Comparisons by = {postless, crayless, voidless, hint, numb, failed, zitsless};
+  int kx = kindindex(cellkind(x));
+  int ky = kindindex(cellkind(y));
+  return kx == ky ? by[kx](x, y) : verdict(kx < ky);
+}
+
+static Verdict gteq(Cell* x, Cell* y) {
+  constexpr Comparison hint = ofnumbers<hintgteq>, numb = failed;
+  //                          post      cray      void      hint  numb  real      zits
+  static const Comparisons by = {postgteq, craygteq, voidgteq, hint, numb, failed, zitsgteq};
+  int kx = kindindex(cellkind(x));
+  int ky = kindindex(cellkind(y));
+  return kx == ky ? by[kx](x, y) : verdict(kx > ky);
+}
+
+static Verdict same(Cell* x, Cell* y) {
+  constexpr Comparison number = ofnumbers<numbersame>;
+  //                          post      cray      void    hint    numb    real      zits
+  static const Comparisons by = {postsame, craysame, failed, number, number, failed, zitssame};
+  if (x == y) return YES;
+  int kx = kindindex(cellkind(x));
+  int ky = kindindex(cellkind(y));
+  return kx == ky ? by[kx](x, y) : NO;
+}
+
+// The opposite of `same` but for arrays, whose slots are looked at by `diff` in turn.
+static Verdict diff(Cell* x, Cell* y) {
+  if (x == y) return NO;
+  bool crays = cellkind(x) == 'c' && cellkind(y) == 'c';
+  return crays ? craydiff(x, y) : opposite(same(x, y));
+}
+
+CellRef valueless(Cell* x, Cell* y) { return answered(less(x, y)); }
+CellRef valuegteq(Cell* x, Cell* y) { return answered(gteq(x, y)); }
+CellRef valuesame(Cell* x, Cell* y) { return answered(same(x, y)); }
+CellRef valuediff(Cell* x, Cell* y) { return answered(diff(x, y)); }
+
+CellRef valuecmpr(Cell* x, Cell* y) { return hintfrom(termorder(x, y)); }
+
+}  // namespace tarn
