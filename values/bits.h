@@ -27,7 +27,7 @@ bool bitnonzero(const Str& s);
 
 Str bittrim(const Str& s);                     // without zero bytes at the high end
 Str bitzeros(int64_t n);                       // n zero bytes
-Str bitshift(int64_t n, const Str& s);         // up by n bits
+Str bitshift(int64_t n, const Str& s);         // up by n bits, or down if n < 0
 Str bitadd(const Str& a, const Str& b);
 Str bitaddsmall(const Str& s, uint64_t n);     // n is below 2^63
 Str bitmulsmall(const Str& s, uint64_t n);     // n is below 2^63
