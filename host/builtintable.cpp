@@ -6,7 +6,9 @@
 // three. A program that reaches one of them ends on the missing link.
 #include "host/builtintable.h"
 
+#include "values/access.h"
 #include "values/answer.h"
+#include "values/atoms.h"
 #include "values/compare.h"
 #include "values/cray.h"
 #include "values/identity.h"
@@ -176,7 +178,7 @@ constexpr BuiltinRow builtinrows[BUILTINS] = {
     {"ldexp",        2, callnothing},
     {"less",         2, with2<valueless>},
     {"listen",       2, callnothing},
-    {"look",         2, callnothing},
+    {"look",         2, with2<valuelook>},
     {"modf",         2, callnothing},
     {"mult",         2, with2<valuemult>},
     {"nextafter",    2, callnothing},
@@ -231,7 +233,7 @@ constexpr BuiltinRow builtinrows[BUILTINS] = {
     {"accept",       3, callnothing},
     {"bind",         3, callnothing},
     {"connect",      3, callnothing},
-    {"cork",         3, callnothing},
+    {"cork",         3, callcork},
     {"fgets",        3, callnothing},
     {"fseek",        3, callnothing},
     {"getpeername",  3, callnothing},
@@ -265,7 +267,7 @@ constexpr BuiltinRow builtinrows[BUILTINS] = {
     {"strncpy",      3, callnothing},
     {"strtok_r",     3, callnothing},
     {"todo",         3, calltodo},
-    {"trim",         3, callnothing},
+    {"trim",         3, with3<valuetrim>},
     {"write",        3, callnothing},
     // arity 4, 7 rows
     {"fread",        4, callnothing},
@@ -293,6 +295,7 @@ static_assert([] {
 
 void hostinstall() {
   builtinuse(builtinrows, BUILTINS);
+  atomsuse(atomrules);
 }
 
 }  // namespace tarn

@@ -7,7 +7,9 @@
 #include "values/cray.h"
 #include "values/hint.h"
 #include "values/kinds.h"
+#include "values/numb.h"
 #include "values/post.h"
+#include "values/real.h"
 #include "values/zits.h"
 
 namespace tarn {
@@ -71,11 +73,18 @@ static Verdict ofnumbers(Cell* x, Cell* y) {
   return arenumbers(x, y) ? verdict(holds(x, y)) : FAILED;
 }
 
+static bool numbgteq(Cell* x, Cell* y) { return !numbless(x, y); }
+
 // By the digits as they stand: two texts of one number are the same.
 static bool numbersame(Cell* x, Cell* y) {
   if (cellispair(x) || cellispair(y)) return hinttext(x) == hinttext(y);
   return bytesequal({leafbytes(x), cellsize(x)}, {leafbytes(y), cellsize(y)});
 }
+
+// A NaN is neither less nor greater than anything, and not the same as itself.
+static Verdict realless(Cell* x, Cell* y) { return verdict(realvalue(y) > realvalue(x)); }
+static Verdict realgteq(Cell* x, Cell* y) { return verdict(realvalue(x) >= realvalue(y)); }
+static Verdict realsame(Cell* x, Cell* y) { return verdict(realvalue(x) == realvalue(y)); }
 
 // --- Arrays: element by element ------------------------------------------------------------------
 //
@@ -149,18 +158,18 @@ static Verdict craydiff(Cell* x, Cell* y) {
 // --- The operators -------------------------------------------------------------------------------
 
 static Verdict less(Cell* x, Cell* y) {
-  constexpr Comparison hint = ofnumbers<hintless>, numb = failed;
+  constexpr Comparison hint = ofnumbers<hintless>, numb = ofnumbers<numbless>;
   //                          post      cray      void      hint  numb  real      zits
-  static const Comparisons by = {postless, crayless, voidless, hint, numb, failed, zitsless};
+  static const Comparisons by = {postless, crayless, voidless, hint, numb, realless, zitsless};
   int kx = kindindex(cellkind(x));
   int ky = kindindex(cellkind(y));
   return kx == ky ? by[kx](x, y) : verdict(kx < ky);
 }
 
 static Verdict gteq(Cell* x, Cell* y) {
-  constexpr Comparison hint = ofnumbers<hintgteq>, numb = failed;
+  constexpr Comparison hint = ofnumbers<hintgteq>, numb = ofnumbers<numbgteq>;
   //                          post      cray      void      hint  numb  real      zits
-  static const Comparisons by = {postgteq, craygteq, voidgteq, hint, numb, failed, zitsgteq};
+  static const Comparisons by = {postgteq, craygteq, voidgteq, hint, numb, realgteq, zitsgteq};
   int kx = kindindex(cellkind(x));
   int ky = kindindex(cellkind(y));
   return kx == ky ? by[kx](x, y) : verdict(kx > ky);
@@ -169,7 +178,7 @@ static Verdict gteq(Cell* x, Cell* y) {
 static Verdict same(Cell* x, Cell* y) {
   constexpr Comparison number = ofnumbers<numbersame>;
   //                          post      cray      void    hint    numb    real      zits
-  static const Comparisons by = {postsame, craysame, failed, number, number, failed, zitssame};
+  static const Comparisons by = {postsame, craysame, failed, number, number, realsame, zitssame};
   if (x == y) return YES;
   int kx = kindindex(cellkind(x));
   int ky = kindindex(cellkind(y));

@@ -6,12 +6,17 @@
 // The arms `numbs` and `reals` in the columns and rows of arrays are these deaths.
 #include "values/operators.h"
 
+#include <cmath>
+
 #include "values/answer.h"
 #include "values/coerce.h"
 #include "values/cray.h"
 #include "values/hint.h"
 #include "values/kinds.h"
+#include "values/numb.h"
+#include "values/numbreal.h"
 #include "values/post.h"
+#include "values/real.h"
 #include "values/slices.h"
 #include "values/zits.h"
 
@@ -20,7 +25,29 @@ namespace tarn {
 static CellRef none(Cell*) { return failure(); }
 static CellRef none(Cell*, Cell*) { return failure(); }
 
+// Both as reals; what is no number dies.
+template <double (*work)(double, double)>
+static CellRef reals(Cell* x, Cell* y) {
+  if (!isnumber(x) || !isnumber(y)) return failure();
+  CellRef a = truecast(x);
+  CellRef b = truecast(y);
+  return realleaf(work(realvalue(a), realvalue(b)));
+}
+
+static CellRef asnumb(Cell* x) { return cellkind(x) == 'i' ? hinttonumb(x) : cellcopy(x); }
+
+// Both as numbs, the integers turned into them; what is no number dies.
+template <Arm2 work>
+static CellRef numbs(Cell* x, Cell* y) {
+  if (!isnumber(x) || !isnumber(y)) return failure();
+  CellRef a = asnumb(x);
+  CellRef b = asnumb(y);
+  return work(a, b);
+}
+
 // --- + -------------------------------------------------------------------------------------------
+
+static double add(double x, double y) { return x + y; }
 
 static CellRef joincrays(Cell* x, Cell* y) {
   uint64_t slots = cellfield(x) + cellfield(y);
@@ -32,6 +59,7 @@ static CellRef joinposts(Cell* x, Cell* y) { return postjoin(postbytes(x), postb
 // The text of a number or a zits, as it is joined to a string.
 static Str joinedtext(Cell* x) {
   switch (cellkind(x)) {
+    case 'r': return realtext(x);
     case 'u': return zitstext(x);
     default: return hinttext(x);
   }
@@ -73,7 +101,7 @@ static CellRef textthenzits(Cell* x, Cell* y) {
 CellRef valueplus(Cell* x, Cell* y) {
   constexpr Arm2 pp = joinposts, pt = postthentext, tp = textthenpost;
   constexpr Arm2 zz = joinzits, zt = zitsthentext, tz = textthenzits;
-  constexpr Arm2 cc = joincrays, ii = hintadd, oo = none, rr = none;
+  constexpr Arm2 cc = joincrays, ii = hintadd, oo = numbs<numbadd>, rr = reals<add>;
   static const Matrix matrix = {
       //  post  cray  void  hint  numb  real  zits   y
       {   pp,   none, none, pt,   pt,   pt,   pt  }, // post x
@@ -88,6 +116,8 @@ CellRef valueplus(Cell* x, Cell* y) {
 }
 
 // --- - -------------------------------------------------------------------------------------------
+
+static double subtract(double x, double y) { return x - y; }
 
 static CellRef cutpost(Cell* x, Cell* y) {
   Bytes payload = postbytes(x);
@@ -111,7 +141,7 @@ static CellRef rope(Cell* x, Cell* y) { return cellapply1(x, y); }
 
 CellRef valuedash(Cell* x, Cell* y) {
   constexpr Arm2 pi = cutpost, ci = cutcray, zi = cutzits, zz = rope;
-  constexpr Arm2 ii = hintsub, oo = none, rr = none;
+  constexpr Arm2 ii = hintsub, oo = numbs<numbsub>, rr = reals<subtract>;
   static const Matrix matrix = {
       //  post  cray  void  hint  numb  real  zits   y
       {   none, none, none, pi,   none, none, none}, // post x
@@ -126,6 +156,8 @@ CellRef valuedash(Cell* x, Cell* y) {
 }
 
 // --- * -------------------------------------------------------------------------------------------
+
+static double multiply(double x, double y) { return x * y; }
 
 static CellRef repeatpost(Cell* x, Cell* y) {
   int64_t n = hintsmall(y);
@@ -163,7 +195,7 @@ static CellRef swapped(Cell* x, Cell* y) {
 CellRef valuemult(Cell* x, Cell* y) {
   constexpr Arm2 pi = repeatpost, ci = repeatcray, zi = repeatzits;
   constexpr Arm2 ip = swapped<repeatpost>, ic = swapped<repeatcray>, iz = swapped<repeatzits>;
-  constexpr Arm2 ii = hintmul, oo = none, rr = none;
+  constexpr Arm2 ii = hintmul, oo = numbs<numbmul>, rr = reals<multiply>;
   static const Matrix matrix = {
       //  post  cray  void  hint  numb  real  zits   y
       {   none, none, none, pi,   none, none, none}, // post x
@@ -179,12 +211,14 @@ CellRef valuemult(Cell* x, Cell* y) {
 
 // --- / -------------------------------------------------------------------------------------------
 
+static double divide(double x, double y) { return x / y; }  // by zero: the IEEE result
+
 static CellRef append(Cell* x, Cell* y) {
   return cellfield(x) == CELLFIELDLIMIT - 1 ? failure() : crayappend(x, y);
 }
 
 CellRef valueover(Cell* x, Cell* y) {
-  constexpr Arm2 c = append, ii = hintdiv, rr = none;
+  constexpr Arm2 c = append, ii = hintdiv, rr = reals<divide>;
   static const Matrix matrix = {
       //  post  cray  void  hint  numb  real  zits   y
       {   none, none, none, none, none, none, none}, // post x
@@ -200,12 +234,14 @@ CellRef valueover(Cell* x, Cell* y) {
 
 // --- % -------------------------------------------------------------------------------------------
 
+static double modulo(double x, double y) { return std::fmod(x, y); }
+
 static CellRef prepend(Cell* x, Cell* y) {
   return cellfield(y) == CELLFIELDLIMIT - 1 ? failure() : crayprepend(x, y);
 }
 
 CellRef valuecent(Cell* x, Cell* y) {
-  constexpr Arm2 c = prepend, ii = hintmod, oo = none, rr = none;
+  constexpr Arm2 c = prepend, ii = hintmod, oo = numbs<numbmod>, rr = reals<modulo>;
   static const Matrix matrix = {
       //  post  cray  void  hint  numb  real  zits   y
       {   none, c,    none, none, none, none, none}, // post x
@@ -221,12 +257,14 @@ CellRef valuecent(Cell* x, Cell* y) {
 
 // --- ^ -------------------------------------------------------------------------------------------
 
+static double power(double x, double y) { return std::pow(x, y); }
+
 // On purpose: unlike "/" and "%" this stops one slot later than the count in the header can tell, so
 // that an array of 0x3ffffff slots grows to one that counts 0.
 static CellRef appendlate(Cell* x, Cell* y) { return crayappend(x, y); }
 
 CellRef valuepowa(Cell* x, Cell* y) {
-  constexpr Arm2 c = appendlate, ii = hintpow, oi = none, rr = none;
+  constexpr Arm2 c = appendlate, ii = hintpow, oi = numbpow, rr = reals<power>;
   static const Matrix matrix = {
       //  post  cray  void  hint  numb  real  zits   y
       {   none, none, none, none, none, none, none}, // post x
@@ -263,19 +301,21 @@ static CellRef signof(Cell* x) {
   return isnumber(x) ? truthleaf(sign(x)) : failure();
 }
 
+static CellRef signofreal(Cell* x) { return truthleaf(!std::signbit(realvalue(x))); }
+static CellRef negativereal(Cell* x) { return realleaf(-realvalue(x)); }
 static CellRef leftofzits(Cell* x) { return zitsempty(x) ? failure() : zitsleft(x); }
 static CellRef rightofzits(Cell* x) { return zitsempty(x) ? failure() : zitsright(x); }
 
 CellRef valuebuck(Cell* x) {
-  constexpr Arm1 hint = signof<hintsign>, numb = none;
+  constexpr Arm1 hint = signof<hintsign>, numb = signof<numbsign>;
   //                       post         cray  void  hint  numb  real        zits
-  static const Row1 row = {firstofpost, none, none, hint, numb, none, leftofzits};
+  static const Row1 row = {firstofpost, none, none, hint, numb, signofreal, leftofzits};
   return choose(row, x);
 }
 
 CellRef valuewave(Cell* x) {
   //                       post        cray  void  hint     numb     real          zits
-  static const Row1 row = {restofpost, none, none, hintneg, none, none, rightofzits};
+  static const Row1 row = {restofpost, none, none, hintneg, numbneg, negativereal, rightofzits};
   return choose(row, x);
 }
 

@@ -1,6 +1,7 @@
 // Doubles in leaves, and numbers as doubles.
 #include "values/real.h"
 
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 
@@ -20,6 +21,12 @@ CellRef realleaf(double d) {
   uint8_t text[1 + sizeof d] = {' '};
   memcpy(text + 1, &d, sizeof d);
   return leafmade(text, sizeof text);
+}
+
+Str realtext(const Cell* x) {
+  char text[99];
+  int n = snprintf(text, sizeof text, "%e", realvalue(x));
+  return Str(text, n);
 }
 
 double doubleofhint(const Str& text) {

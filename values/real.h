@@ -12,6 +12,9 @@ namespace tarn {
 double realvalue(const Cell* x);  // of a real leaf; any other cell is a program fault
 CellRef realleaf(double d);
 
+// As it is joined to text, in the C format "%e": six decimals and an exponent, "1.500000e+00".
+Str realtext(const Cell* x);
+
 // The double nearest to a digit text of kind 'i'.
 double doubleofhint(const Str& text);
 
