@@ -86,10 +86,11 @@ struct CellRef {
   CellRef(CellRef&& other) noexcept : cell(other.cell) { other.cell = nullptr; }
   CellRef& operator=(const CellRef& other) { return *this = CellRef(other); }
   CellRef& operator=(CellRef&& other) noexcept {
+    if (&other == this) return *this;
     Cell* old = cell;
     cell = other.cell;
-    if (&other != this) other.cell = nullptr;
-    if (old != nullptr && old != cell) cellunhold(old);
+    other.cell = nullptr;
+    if (old != nullptr) cellunhold(old);
     return *this;
   }
   ~CellRef() {

@@ -1,0 +1,28 @@
+// The checks that a program can run: keys are names, every name that can be reached is defined,
+// local variables fit the 26 letters and arities the machine, and nothing stays unbound. The
+// passes that bring the definitions into the form of the machine run between them.
+#pragma once
+
+#include "frontend/report.h"
+#include "graph/cell.h"
+
+namespace tarn {
+
+// Checks and rewrites all definitions, in the order of their names; stops at the first fault, which
+// is then in the report. The report comes in sound. When all is well, every definition is
+// annotated.
+void checkprogram(Report& report);
+
+// The single checks, for text that is compiled at run time. Each gives the report on one
+// definition, sound if there is no fault; the name "" is the main expression.
+Report checkfunky(const Str& key, Cell* term);
+Report checkarity(const Str& key, Cell* term);
+Report checkunbound(const Str& key, Cell* term);
+
+// Gives all long local names of a definition a letter, if there are letters enough.
+Report namelocals(const Str& key, CellRef& term);
+
+// How messages call a definition: "TOP" for the main expression.
+Str displayname(const Str& key);
+
+}  // namespace tarn
