@@ -90,14 +90,6 @@ struct Cork {
 
 }  // namespace
 
-// `cork x i v` is ((cork x) i) v. If one of the three Pairs has another holder, so has x.
-static bool ownsfirst(const Cell* application) {
-  const Cell* second = leftlink(application);
-  const Cell* first = leftlink(second);
-  return cellrefs(application) == 1 && cellrefs(second) == 1 && cellrefs(first) == 1 &&
-         cellrefs(rightlink(first)) == 1;
-}
-
 static CellRef corkpost(const Cork& cork) {
   if (!ishint(cork.v)) return failure();
   int64_t at = placeof(cork.i, postlen(cork.x));

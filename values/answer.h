@@ -30,6 +30,15 @@ CellRef& with0(CellRef& out, CellRef) {
   return out = work();
 }
 
+// Whether the application `f x i v` alone holds its x, and may change it in place: in ((f x) i) v, if
+// one of the three Pairs has another holder, so has x.
+inline bool ownsfirst(const Cell* f) {
+  const Cell* second = leftlink(f);
+  const Cell* first = leftlink(second);
+  return cellrefs(f) == 1 && cellrefs(second) == 1 && cellrefs(first) == 1 &&
+         cellrefs(rightlink(first)) == 1;
+}
+
 template <CellRef (*work)(Cell*)>
 CellRef& with1(CellRef& out, CellRef f) {
   return out = work(lastarg(f));
