@@ -39,7 +39,13 @@ Cell16* drawngrid();
 Cell16* showngrid();
 
 // Sends the difference, leaves the cursor at the column and row (counted from 0), and lets the
-// grids change places. Exactly the bytes of gridbytes, in one write.
+// grids change places. One write, of the bytes that gridbytes tells.
 void paintdiff(int64_t col, int64_t row);
+
+// The bytes that turn the screen `shown` into `drawn`, grids of `cells` cells in rows of `columns`,
+// and leave the cursor at col and row. `out` takes up to gridroom(cells) bytes; gives their number.
+int64_t gridbytes(const Cell16* drawn, const Cell16* shown, int64_t cells, int64_t columns,
+                  int64_t col, int64_t row, uint8_t* out);
+int64_t gridroom(int64_t cells);
 
 }  // namespace tarn

@@ -22,17 +22,32 @@ uint8_t byteglyph(uint8_t byte);  // 0x21 to 0x7E
 uint32_t pinkfore(bool changed, bool overwrite, int32_t byteclass);
 
 // The cell of a byte: in the colours of the current sheet's state or, with statusrow, of the lists.
-Cell16 pinkcell(bool selected, bool changedbyte, bool statusrow, uint8_t byte);
+Cell16 pinkcell(bool chosen, bool changedbyte, bool statusrow, uint8_t byte);
 
 // The cell of empty space under the same choice.
-Cell16 pinkblank(bool selected, bool statusrow);
+Cell16 pinkblank(bool chosen, bool statusrow);
 
 // Draws row 0: the word, four characters, the ink cell, and `stat` from `statshift` on. The words
 // "Open", "Save" and "Tabs" have the colours of the lists.
 void paintword(const char* word);
 
-// Paints the text of the current sheet, the word and the cursor at the point, which must be in
-// the window.
+// A place on the screen, counted from 0.
+struct Spot {
+  int64_t col;
+  int64_t row;
+};
+
+// Whether the byte at an offset shows as selected. Asked once for every byte drawn, in order.
+using Highlight = bool (*)(int64_t offset);
+
+// Draws the text of the current sheet, from row 1 on, and gives the place of the point, which must be
+// in the window. The selected bytes are those of `highlight`, or without one the selection.
+Spot drawtext(Highlight highlight);
+
+// Draws the text and the word.
+Spot drawsheet(const char* word);
+
+// Paints the text, the word, and the cursor at the point.
 void paintsheet(const char* word);
 
 // The painter of the plain state.
@@ -49,6 +64,6 @@ void paintowed();
 bool owespaint();
 
 // While held, every painter defers.
-void holdpaint(bool held);
+void holdpaint(bool hold);
 
 }  // namespace tarn

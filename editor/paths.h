@@ -11,7 +11,8 @@ namespace tarn {
 // where ".." climbs to the root itself or above it.
 Str normalise(Str text);
 
-// The same for a directory, which may end in "/"; the result ends in "/".
+// The same for a directory, which may end in "/"; the result ends in "/", and the root is "/". Empty
+// only above the root.
 Str normalisedir(Str text);
 
 bool isdir(const Str& path);   // an existing directory

@@ -15,6 +15,10 @@ void chirp();
 // paintfile. Nothing is painted, as dispatch does that behind every command.
 void leave();
 
+// Makes a buffer, a key of `sheets`, the current one, and leaves. Its window is brought in line with
+// the size that the screen has now.
+void switchbuffer(const Str& name);
+
 // Leaves the prompt and lets the key just read, the last whole key of `line`, act as it does in the
 // plain state.
 void replay();
