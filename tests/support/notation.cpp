@@ -50,6 +50,11 @@ bool keybytes(const std::string& name, std::string& bytes) {
     bytes = name;
     return true;
   }
+  if (name[0] == '\\') {
+    std::string error;
+    bytes = readtext("\"" + name + "\"", error);
+    return error.empty();
+  }
   for (const NamedKey& key : namedkeys)
     if (name == key.name) {
       bytes = key.bytes;

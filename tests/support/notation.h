@@ -13,6 +13,7 @@ namespace tarn {
 //   <RET> <TAB> <ESC> <SPC> <BS> <LF> <NUL> <LT>
 //   <UP> <DOWN> <LEFT> <RIGHT> <HOME> <END> <PGUP> <PGDN> <INS> <DEL>
 //   <0x80>              a byte
+//   <\eOH>              a sequence that comes in one piece, as in quotes; it begins with "\"
 //   <20 C-f>            any of these, or a character, 20 times
 // Gives the bytes of each key; says what is wrong in `error`, which stays empty otherwise.
 std::vector<std::string> readkeys(const std::string& text, std::string& error);

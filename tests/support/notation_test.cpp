@@ -29,6 +29,8 @@ TEST(Notation, NamedKeys) {
   EXPECT_EQ(keys("<RET><BS><UP>"), "(\r)(\x7f)(\x1b[A)");
   EXPECT_EQ(keys("<M-x>"), "(\x1bx)");
   EXPECT_EQ(keys("<0x8f>"), "(\x8f)");
+  EXPECT_EQ(keys("<\\eOH>a"), "(\x1bOH)(a)");
+  EXPECT_EQ(keys("<\\>"), "(\\)");
 }
 
 TEST(Notation, CountedKeys) {

@@ -191,6 +191,11 @@ void dosignal(Play& p, std::string rest) {
 
 void dohangup(Play& p, std::string) { p.session->hangup(); }
 
+void dosuspend(Play& p, std::string) {
+  p.session->suspend();
+  settle(p);
+}
+
 void doshow(Play& p, std::string) { printf("%s", picture(p.session->terminal, true).c_str()); }
 
 // ---- What is demanded
@@ -299,6 +304,7 @@ const Word words[] = {
     {"resize", act, doresize},
     {"signal", act, dosignal},
     {"hangup", act, dohangup},
+    {"suspend", act, dosuspend},
     {"cursor", demand, wantcursor},
     {"bells", demand, wantbells},
     {"sent", demand, wantsent},
@@ -348,6 +354,12 @@ void endstep(Play& p) {
   if (p.fault.empty() && p.pace == Pace::repainted) checkrepaint(p);
 }
 
+void carryout(Play& p, const Word& word, const Statement& statement) {
+  if (word.run != nullptr) word.run(p, filled(p, statement.rest));
+  else if (statement.word == "row") wantrows(p, statement, atoi(statement.rest.c_str()));
+  else wantrows(p, statement, statement.word == "text" ? 1 : 0);
+}
+
 void run(Play& p, const Statement& statement) {
   const Word* word = findword(statement.word);
   if (word == nullptr) {
@@ -363,9 +375,14 @@ void run(Play& p, const Statement& statement) {
     if (!p.fault.empty()) return;
     if (word->sort == act) beginstep(p);
   }
-  if (word->run != nullptr) word->run(p, filled(p, statement.rest));
-  else if (statement.word == "row") wantrows(p, statement, atoi(statement.rest.c_str()));
-  else wantrows(p, statement, statement.word == "text" ? 1 : 0);
+  carryout(p, *word, statement);
+  // A long paste can lie in the system's buffers while the program rests: give it a moment.
+  int64_t end = Session::now() + 500;
+  while (word->sort == demand && !p.fault.empty() && !p.session->ended && Session::now() < end) {
+    p.session->pump(5);
+    p.fault.clear();
+    carryout(p, *word, statement);
+  }
 }
 
 std::string report(const Play& p, int line) {

@@ -99,7 +99,7 @@ Doing doingof(pid_t pid) {
 
 }  // namespace
 
-Session::Session(const Launch& launch) : terminal(launch.width, launch.height) {
+Session::Session(const Launch& launch) : terminal(launch.width, launch.height), oldbackspace(launch.oldbackspace) {
   termios modes = shellmodes(launch.oldbackspace);
   winsize size = windowsize(launch.width, launch.height);
   if (openpty(&master, &slave, nullptr, &modes, &size) != 0) {
@@ -163,6 +163,21 @@ void Session::signal(int number) {
 void Session::hangup() {
   close(master);
   master = -1;
+}
+
+void Session::suspend() {
+  ask();
+  int stopped = 0;
+  kill(pid, SIGSTOP);
+  if (waitpid(pid, &stopped, WUNTRACED) == pid && !WIFSTOPPED(stopped)) {
+    ended = true;
+    status = stopped;
+    return;
+  }
+  termios modes = shellmodes(oldbackspace);
+  tcsetattr(slave, TCSANOW, &modes);
+  terminal.clear();
+  kill(pid, SIGCONT);
 }
 
 bool Session::reap() {

@@ -20,7 +20,7 @@ struct Launch {
   std::string directory;          // where it starts; "" for here
   std::string home;               // $HOME; "" for none
   int width = 80, height = 24;
-  bool oldbackspace = false;      // a terminal whose Backspace sends byte 8
+  bool oldbackspace = false;      // a terminal whose Backspace sends byte 8 instead of 127
 };
 
 struct Session {
@@ -39,6 +39,7 @@ struct Session {
   void resize(int columns, int rows);
   void signal(int number);
   void hangup();  // closes the terminal under the program
+  void suspend();  // stops it, gives the terminal to a shell that clears the screen, and resumes it
 
   // Waits till all that was asked has been answered, or the program has ended; false if that does
   // not come about within the milliseconds.
@@ -65,6 +66,7 @@ struct Session {
  private:
   int master = -1;     // our end of the terminal
   int slave = -1;      // the program's end, held open to ask for unread input
+  bool oldbackspace;
   int64_t sleeps = 0;  // how often the program had gone to sleep before it was last asked
   bool asked = false;  // since then keys or a signal were sent
 

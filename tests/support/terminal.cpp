@@ -49,6 +49,8 @@ void Terminal::feed(const char* bytes, size_t n) {
   vterm_input_write(vt, bytes, n);
 }
 
+void Terminal::clear() { vterm_screen_reset(screen, 1); }
+
 void Terminal::resize(int columns, int rows) {
   width = columns;
   height = rows;

@@ -28,6 +28,7 @@ struct Terminal {
   Terminal& operator=(const Terminal&) = delete;
 
   void feed(const char* bytes, size_t n);
+  void clear();  // as a reset of the terminal does; log and bells stay
   void resize(int columns, int rows);
   ScreenCell at(int row, int column) const;
   std::string row(int y) const;  // its glyphs, blanks at the end cut; '?' for one that is not ASCII
