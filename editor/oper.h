@@ -49,9 +49,10 @@ inline opertype operw(const oper& o) { return static_cast<opertype>(o.word >> 60
 // An oper of version 0; t is 0 to 2^30 - 1.
 oper opermake(opertype w, int64_t t, Str data);
 void opersett(oper& o, int64_t t);
+void opersetv(oper& o, int64_t v);
 
 // Every history by the name of its buffer; the first oper of each is the root oper.
-extern std::map<Str, std::vector<oper>> opers;
+extern std::map<Str, std::vector<oper>>& opers;
 
 // For tests: fails if a history is empty, its root is wrong, or a version is.
 void checkopers();

@@ -48,7 +48,7 @@ struct sheet {
 };
 
 // Every open buffer by its name: an absolute path, or "." for the scratch buffer.
-extern std::map<Str, sheet> sheets;
+extern std::map<Str, sheet>& sheets;
 
 // The sheet of the buffer on the screen, which must be open (`currentname` in state.h).
 sheet& currentsheet();
@@ -73,6 +73,7 @@ Str flatten(const sheet& s);
 
 // The bytes from `from` to `to`, 0 <= from <= to <= size.
 Str stretch(const sheet& s, int64_t from, int64_t to);
+void copybytes(const sheet& s, int64_t from, int64_t to, uint8_t* out);  // the same, to out
 
 // Whether byte i shows as changed: it lies in the difference bounds, and is not the same byte as in
 // `saved` if the text is as long as that. Pass the byte where it is at hand.

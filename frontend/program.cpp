@@ -48,14 +48,20 @@ static Str livename(Cell* key) {
   return leafisbyte(rightlink(key), '}') ? celltext(leftlink(key)) : Str();
 }
 
-static void additem(std::vector<Item>& items, Cell* term, int64_t place) {
+Str itemname(Cell* term) {
   auto [key, value] = splititem(term);
-  if (key == nullptr) return;
+  if (key == nullptr) return Str();
+  Str name = cellispair(key) ? livename(key) : celltext(key);
+  return isdefinable(name) ? defname(name) : Str();
+}
+
+static void additem(std::vector<Item>& items, Cell* term, int64_t place) {
+  Str name = itemname(term);
+  if (name.empty()) return;
+  auto [key, value] = splititem(term);
   bool live = cellispair(key);
-  Str name = live ? livename(key) : celltext(key);
-  if (!isdefinable(name)) return;
   CellRef stored = live ? cellpair(leafbyte('I'), value) : cellcopy(value);
-  items.push_back({defname(name), std::move(stored), live, place});
+  items.push_back({name, std::move(stored), live, place});
 }
 
 Program parseprogram(const Str& text) {

@@ -34,6 +34,10 @@ struct Program {
 // before right, the main expression first.
 Program parseprogram(const Str& text);
 
+// The name that the term of one item defines, a symbol without brackets; empty if it is no
+// definition.
+Str itemname(Cell* term);
+
 // Starts a run: empties all definitions and defines what the prelude does, keeping a copy.
 void loadprelude();
 

@@ -4,7 +4,6 @@
 
 #include <cstring>
 
-#include "values/answer.h"
 #include "values/bitlist.h"
 #include "values/coerce.h"
 #include "values/mag.h"
@@ -56,6 +55,8 @@ static CellRef signedleaf(bool negative, const Str& m) {
   return leafstr(magsign(negative, magstore(m)));
 }
 
+static CellRef nothing() { return leafbyte('Z'); }
+
 // --- Sum and difference --------------------------------------------------------------------------
 
 static CellRef addsigned(const Str& a, bool anegative, const Str& b, bool bnegative) {
@@ -65,7 +66,7 @@ static CellRef addsigned(const Str& a, bool anegative, const Str& b, bool bnegat
 }
 
 static CellRef add(HintView x, HintView y) {
-  if (!x.isnumber() || !y.isnumber()) return failure();
+  if (!x.isnumber() || !y.isnumber()) return nothing();
   if (x.isshort() && y.isshort()) return hintfrom(shortvalue(x) + shortvalue(y));
   return addsigned(magnitude(x), x.negative, magnitude(y), y.negative);
 }
@@ -79,7 +80,7 @@ CellRef hintadd(Cell* x, Cell* y) { return add(view(x), view(y)); }
 CellRef hintsub(Cell* x, Cell* y) { return add(view(x), negated(view(y))); }
 
 static CellRef leafofview(const HintView& x) {
-  if (!x.isnumber()) return failure();
+  if (!x.isnumber()) return nothing();
   return leafstr(magsign(x.negative, Str(x.digits, x.n)));
 }
 
@@ -101,7 +102,7 @@ static CellRef product(const HintView& x, const HintView& y) {
 CellRef hintmul(Cell* x, Cell* y) {
   HintView a = view(x);
   HintView b = view(y);
-  if (!a.isnumber() || !b.isnumber()) return failure();
+  if (!a.isnumber() || !b.isnumber()) return nothing();
   if (a.iszero() || b.iszero()) return leafbyte('0');
   CellRef made = product(a, b);
   setarity(made, 2);
@@ -118,7 +119,7 @@ static CellRef shortquotient(int64_t x, int64_t y) {
 CellRef hintdiv(Cell* x, Cell* y) {
   HintView a = view(x);
   HintView b = view(y);
-  if (!a.isnumber() || !b.isnumber() || b.iszero()) return failure();
+  if (!a.isnumber() || !b.isnumber() || b.iszero()) return nothing();
   if (a.isshort() && b.isshort()) return shortquotient(shortvalue(a), shortvalue(b));
   bool agree = a.negative == b.negative;
   return signedleaf(!agree, magdiv(agree, magnitude(a), magnitude(b)));
@@ -132,7 +133,7 @@ static CellRef shortremainder(int64_t x, int64_t y, bool agree) {
 CellRef hintmod(Cell* x, Cell* y) {
   HintView a = view(x);
   HintView b = view(y);
-  if (!a.isnumber() || !b.isnumber() || b.iszero()) return failure();
+  if (!a.isnumber() || !b.isnumber() || b.iszero()) return nothing();
   bool agree = a.negative == b.negative;
   if (a.isshort() && b.isshort()) return shortremainder(shortmagnitude(a), shortmagnitude(b), agree);
   Str divisor = magnitude(b);
@@ -146,7 +147,7 @@ CellRef hintmod(Cell* x, Cell* y) {
 CellRef hintpow(Cell* x, Cell* y) {
   HintView a = view(x);
   HintView b = view(y);
-  if (!a.isnumber() || !b.isnumber()) return failure();
+  if (!a.isnumber() || !b.isnumber()) return nothing();
   if (b.negative) return leafbyte('0');
   Str exponent = magnitude(b);
   return signedleaf(a.negative && !magiseven(exponent), magpow(magnitude(a), exponent));

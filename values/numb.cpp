@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include "foundation/chars.h"
-#include "values/answer.h"
 #include "values/bitlist.h"
 #include "values/bits.h"
 #include "values/bitwords.h"
@@ -13,6 +12,8 @@
 #include "values/numbbody.h"
 
 namespace tarn {
+
+static CellRef nothing() { return leafbyte('Z'); }
 
 // --- Between cells and bodies --------------------------------------------------------------------
 
@@ -73,18 +74,18 @@ static Str negated(Str t) {
 CellRef numbadd(Cell* x, Cell* y) {
   Str a = numbbits(x);
   Str b = numbbits(y);
-  return a.empty() || b.empty() ? failure() : numbleaf(addbodies(a, b));
+  return a.empty() || b.empty() ? nothing() : numbleaf(addbodies(a, b));
 }
 
 CellRef numbsub(Cell* x, Cell* y) {
   Str a = numbbits(x);
   Str b = numbbits(y);
-  return a.empty() || b.empty() ? failure() : numbleaf(addbodies(a, negated(b)));
+  return a.empty() || b.empty() ? nothing() : numbleaf(addbodies(a, negated(b)));
 }
 
 CellRef numbneg(Cell* x) {
   Str t = numbbits(x);
-  return t.empty() ? failure() : numbleaf(negated(t));
+  return t.empty() ? nothing() : numbleaf(negated(t));
 }
 
 // --- Product and remainder -----------------------------------------------------------------------
@@ -99,7 +100,7 @@ static Str mulbodies(const Str& x, const Str& y) {
 CellRef numbmul(Cell* x, Cell* y) {
   Str a = numbbits(x);
   Str b = numbbits(y);
-  return a.empty() || b.empty() ? failure() : numbleaf(mulbodies(a, b));
+  return a.empty() || b.empty() ? nothing() : numbleaf(mulbodies(a, b));
 }
 
 static Str modbodies(const Str& x, const Str& y) {
@@ -112,7 +113,7 @@ static Str modbodies(const Str& x, const Str& y) {
 CellRef numbmod(Cell* x, Cell* y) {
   Str a = numbbits(x);
   Str b = numbbits(y);
-  if (a.empty() || b.empty() || numbiszero(b)) return failure();
+  if (a.empty() || b.empty() || numbiszero(b)) return nothing();
   return numbleaf(modbodies(a, b));
 }
 
@@ -121,7 +122,7 @@ CellRef numbmod(Cell* x, Cell* y) {
 constexpr int64_t POWERLIMIT = 61;  // the list of an exponent must be shorter
 
 static CellRef poweroftwo(Cell* y) {
-  if (bittop(bitsofterm(y)) >= POWERLIMIT) return failure();
+  if (bittop(bitsofterm(y)) >= POWERLIMIT) return nothing();
   Str t = strbyte(1);
   bitset(numbindex(hintsmall(y)), true, t);
   return numbleaf(t);
@@ -152,9 +153,9 @@ static Str powerloop(const Str& x, CellRef y) {
 
 CellRef numbpow(Cell* x, Cell* y) {
   Str t = numbbits(x);
-  if (t.empty() || !isnumber(y)) return failure();
+  if (t.empty() || !isnumber(y)) return nothing();
   if (hinttext(x) == Str("004")) return poweroftwo(y);
-  if (!hintsign(y)) return failure();
+  if (!hintsign(y)) return nothing();
   if (hintiszero(y)) return leafcstr("00");
   return numbleaf(powerloop(t, cellcopy(y)));
 }
