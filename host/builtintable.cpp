@@ -20,7 +20,9 @@
 #include "values/compare.h"
 #include "values/cray.h"
 #include "values/identity.h"
+#include "values/lits.h"
 #include "values/operators.h"
+#include "values/realform.h"
 
 namespace tarn {
 
@@ -119,11 +121,11 @@ constexpr BuiltinRow builtinrows[BUILTINS] = {
     {"leak",         1, with1<memoryleak>},
     {"left",         1, callnothing},
     {"lisp",         1, callnothing},
-    {"lits",         1, callnothing},
+    {"lits",         1, with1<valuelits>},
     {"load",         1, callnothing},
     {"localtime",    1, hostlocaltime},
     {"log",          1, hostlog},
-    {"lots",         1, callnothing},
+    {"lots",         1, with1<valuelots>},
     {"malloc",       1, hostmalloc},
     {"mktime",       1, hostmktime},
     {"ntohl",        1, hostntohl},
@@ -135,7 +137,7 @@ constexpr BuiltinRow builtinrows[BUILTINS] = {
     {"raise",        1, hostraise},
     {"rank",         1, with1<valuerank>},
     {"readdir",      1, hostreaddir},
-    {"real",         1, callnothing},
+    {"real",         1, with1<valuereal>},
     {"refh",         1, refread<1>},
     {"refi",         1, refread<2>},
     {"refj",         1, refread<4>},

@@ -4,6 +4,7 @@
 
 #include <cstring>
 
+#include "values/answer.h"
 #include "values/bitlist.h"
 #include "values/coerce.h"
 #include "values/mag.h"
@@ -55,8 +56,6 @@ static CellRef signedleaf(bool negative, const Str& m) {
   return leafstr(magsign(negative, magstore(m)));
 }
 
-static CellRef nothing() { return leafbyte('Z'); }
-
 // --- Sum and difference --------------------------------------------------------------------------
 
 static CellRef addsigned(const Str& a, bool anegative, const Str& b, bool bnegative) {
@@ -66,7 +65,7 @@ static CellRef addsigned(const Str& a, bool anegative, const Str& b, bool bnegat
 }
 
 static CellRef add(HintView x, HintView y) {
-  if (!x.isnumber() || !y.isnumber()) return nothing();
+  if (!x.isnumber() || !y.isnumber()) return failure();
   if (x.isshort() && y.isshort()) return hintfrom(shortvalue(x) + shortvalue(y));
   return addsigned(magnitude(x), x.negative, magnitude(y), y.negative);
 }
@@ -80,7 +79,7 @@ CellRef hintadd(Cell* x, Cell* y) { return add(view(x), view(y)); }
 CellRef hintsub(Cell* x, Cell* y) { return add(view(x), negated(view(y))); }
 
 static CellRef leafofview(const HintView& x) {
-  if (!x.isnumber()) return nothing();
+  if (!x.isnumber()) return failure();
   return leafstr(magsign(x.negative, Str(x.digits, x.n)));
 }
 
@@ -102,7 +101,7 @@ static CellRef product(const HintView& x, const HintView& y) {
 CellRef hintmul(Cell* x, Cell* y) {
   HintView a = view(x);
   HintView b = view(y);
-  if (!a.isnumber() || !b.isnumber()) return nothing();
+  if (!a.isnumber() || !b.isnumber()) return failure();
   if (a.iszero() || b.iszero()) return leafbyte('0');
   CellRef made = product(a, b);
   setarity(made, 2);
@@ -119,7 +118,7 @@ static CellRef shortquotient(int64_t x, int64_t y) {
 CellRef hintdiv(Cell* x, Cell* y) {
   HintView a = view(x);
   HintView b = view(y);
-  if (!a.isnumber() || !b.isnumber() || b.iszero()) return nothing();
+  if (!a.isnumber() || !b.isnumber() || b.iszero()) return failure();
   if (a.isshort() && b.isshort()) return shortquotient(shortvalue(a), shortvalue(b));
   bool agree = a.negative == b.negative;
   return signedleaf(!agree, magdiv(agree, magnitude(a), magnitude(b)));
@@ -133,7 +132,7 @@ static CellRef shortremainder(int64_t x, int64_t y, bool agree) {
 CellRef hintmod(Cell* x, Cell* y) {
   HintView a = view(x);
   HintView b = view(y);
-  if (!a.isnumber() || !b.isnumber() || b.iszero()) return nothing();
+  if (!a.isnumber() || !b.isnumber() || b.iszero()) return failure();
   bool agree = a.negative == b.negative;
   if (a.isshort() && b.isshort()) return shortremainder(shortmagnitude(a), shortmagnitude(b), agree);
   Str divisor = magnitude(b);
@@ -147,7 +146,7 @@ CellRef hintmod(Cell* x, Cell* y) {
 CellRef hintpow(Cell* x, Cell* y) {
   HintView a = view(x);
   HintView b = view(y);
-  if (!a.isnumber() || !b.isnumber()) return nothing();
+  if (!a.isnumber() || !b.isnumber()) return failure();
   if (b.negative) return leafbyte('0');
   Str exponent = magnitude(b);
   return signedleaf(a.negative && !magiseven(exponent), magpow(magnitude(a), exponent));

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "foundation/chars.h"
+#include "values/answer.h"
 #include "values/bitlist.h"
 #include "values/bits.h"
 #include "values/bitwords.h"
@@ -12,8 +13,6 @@
 #include "values/numbbody.h"
 
 namespace tarn {
-
-static CellRef nothing() { return leafbyte('Z'); }
 
 // --- Between cells and bodies --------------------------------------------------------------------
 
@@ -74,18 +73,18 @@ static Str negated(Str t) {
 CellRef numbadd(Cell* x, Cell* y) {
   Str a = numbbits(x);
   Str b = numbbits(y);
-  return a.empty() || b.empty() ? nothing() : numbleaf(addbodies(a, b));
+  return a.empty() || b.empty() ? failure() : numbleaf(addbodies(a, b));
 }
 
 CellRef numbsub(Cell* x, Cell* y) {
   Str a = numbbits(x);
   Str b = numbbits(y);
-  return a.empty() || b.empty() ? nothing() : numbleaf(addbodies(a, negated(b)));
+  return a.empty() || b.empty() ? failure() : numbleaf(addbodies(a, negated(b)));
 }
 
 CellRef numbneg(Cell* x) {
   Str t = numbbits(x);
-  return t.empty() ? nothing() : numbleaf(negated(t));
+  return t.empty() ? failure() : numbleaf(negated(t));
 }
 
 // --- Product and remainder -----------------------------------------------------------------------
@@ -100,7 +99,7 @@ static Str mulbodies(const Str& x, const Str& y) {
 CellRef numbmul(Cell* x, Cell* y) {
   Str a = numbbits(x);
   Str b = numbbits(y);
-  return a.empty() || b.empty() ? nothing() : numbleaf(mulbodies(a, b));
+  return a.empty() || b.empty() ? failure() : numbleaf(mulbodies(a, b));
 }
 
 static Str modbodies(const Str& x, const Str& y) {
@@ -113,7 +112,7 @@ static Str modbodies(const Str& x, const Str& y) {
 CellRef numbmod(Cell* x, Cell* y) {
   Str a = numbbits(x);
   Str b = numbbits(y);
-  if (a.empty() || b.empty() || numbiszero(b)) return nothing();
+  if (a.empty() || b.empty() || numbiszero(b)) return failure();
   return numbleaf(modbodies(a, b));
 }
 
@@ -122,7 +121,7 @@ CellRef numbmod(Cell* x, Cell* y) {
 constexpr int64_t POWERLIMIT = 61;  // the list of an exponent must be shorter
 
 static CellRef poweroftwo(Cell* y) {
-  if (bittop(bitsofterm(y)) >= POWERLIMIT) return nothing();
+  if (bittop(bitsofterm(y)) >= POWERLIMIT) return failure();
   Str t = strbyte(1);
   bitset(numbindex(hintsmall(y)), true, t);
   return numbleaf(t);
@@ -153,9 +152,9 @@ static Str powerloop(const Str& x, CellRef y) {
 
 CellRef numbpow(Cell* x, Cell* y) {
   Str t = numbbits(x);
-  if (t.empty() || !isnumber(y)) return nothing();
+  if (t.empty() || !isnumber(y)) return failure();
   if (hinttext(x) == Str("004")) return poweroftwo(y);
-  if (!hintsign(y)) return nothing();
+  if (!hintsign(y)) return failure();
   if (hintiszero(y)) return leafcstr("00");
   return numbleaf(powerloop(t, cellcopy(y)));
 }
