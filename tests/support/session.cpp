@@ -86,14 +86,19 @@ void look(const std::string& task, Doing& doing) {
   doing.sleeps += atoll(status.c_str() + sleeps + strlen("\nvoluntary_ctxt_switches:\t"));
 }
 
-Doing doingof(pid_t pid) {
-  Doing doing;
+template <class Visit>
+void eachtask(pid_t pid, Visit visit) {
   std::string tasks = "/proc/" + std::to_string(pid) + "/task";
   DIR* dir = opendir(tasks.c_str());
-  if (dir == nullptr) return doing;
+  if (dir == nullptr) return;
   while (dirent* entry = readdir(dir))
-    if (entry->d_name[0] != '.') look(tasks + "/" + entry->d_name, doing);
+    if (entry->d_name[0] != '.') visit(tasks + "/" + entry->d_name);
   closedir(dir);
+}
+
+Doing doingof(pid_t pid) {
+  Doing doing;
+  eachtask(pid, [&](const std::string& task) { look(task, doing); });
   return doing;
 }
 
@@ -125,10 +130,18 @@ Session::~Session() {
   if (slave >= 0) close(slave);
 }
 
-int64_t Session::now() {
+int64_t Session::now() { return nanoseconds() / 1000000; }
+
+int64_t Session::nanoseconds() {
   timespec t;
   clock_gettime(CLOCK_MONOTONIC, &t);
-  return t.tv_sec * 1000 + t.tv_nsec / 1000000;
+  return t.tv_sec * 1000000000 + t.tv_nsec;
+}
+
+int64_t Session::cputime() const {
+  int64_t spent = 0;
+  eachtask(pid, [&](const std::string& task) { spent += atoll(slurp(task + "/schedstat").c_str()); });
+  return spent;
 }
 
 void Session::ask() {
@@ -197,6 +210,7 @@ bool Session::pump(int ms) {
   char piece[65536];
   ssize_t n = read(master, piece, sizeof piece);
   if (n <= 0) return false;
+  lastoutput = nanoseconds();
   terminal.feed(piece, static_cast<size_t>(n));
   return true;
 }

@@ -28,6 +28,7 @@ struct Session {
   pid_t pid = -1;
   bool ended = false;  // the program is gone and status holds
   int status = 0;      // as waitpid gives it
+  int64_t lastoutput = 0;  // when output last came, by nanoseconds()
 
   explicit Session(const Launch& launch);
   ~Session();  // kills the program if it still runs
@@ -61,7 +62,11 @@ struct Session {
   // The terminal's modes as the program left them: canonical input and echo, as a shell wants.
   bool cooked() const;
 
-  static int64_t now();  // milliseconds of a clock that only goes forward
+  // Nanoseconds that the program has spent on processors, all its threads together.
+  int64_t cputime() const;
+
+  static int64_t now();          // milliseconds of a clock that only goes forward
+  static int64_t nanoseconds();  // the same clock
 
  private:
   int master = -1;     // our end of the terminal
