@@ -23,6 +23,7 @@
 #include "values/lits.h"
 #include "values/operators.h"
 #include "values/realform.h"
+#include "values/texts.h"
 
 namespace tarn {
 
@@ -75,7 +76,7 @@ constexpr BuiltinRow builtinrows[BUILTINS] = {
     {"atol",         1, hostatol},
     {"bond",         1, with1<memorybond>},
     {"buck",         1, with1<valuebuck>},
-    {"cape",         1, callnothing},
+    {"cape",         1, with1<valuecape>},
     {"ceil",         1, hostceil},
     {"clearerr",     1, hostclearerr},
     {"closedir",     1, hostclosedir},
@@ -104,7 +105,7 @@ constexpr BuiltinRow builtinrows[BUILTINS] = {
     {"gmtime",       1, hostgmtime},
     {"htonl",        1, hosthtonl},
     {"htons",        1, hosthtons},
-    {"init",         1, callnothing},
+    {"init",         1, with1<valueinit>},
     {"isalnum",      1, hostisalnum},
     {"isalpha",      1, hostisalpha},
     {"isascii",      1, hostisascii},
@@ -117,9 +118,9 @@ constexpr BuiltinRow builtinrows[BUILTINS] = {
     {"isspace",      1, hostisspace},
     {"isupper",      1, hostisupper},
     {"labs",         1, hostlabs},
-    {"leaf",         1, callnothing},
+    {"leaf",         1, with1<valueleaf>},
     {"leak",         1, with1<memoryleak>},
-    {"left",         1, callnothing},
+    {"left",         1, with1<valueleft>},
     {"lisp",         1, callnothing},
     {"lits",         1, with1<valuelits>},
     {"load",         1, callnothing},
@@ -144,7 +145,7 @@ constexpr BuiltinRow builtinrows[BUILTINS] = {
     {"refk",         1, refread<8>},
     {"remove",       1, hostremove},
     {"rewind",       1, hostrewind},
-    {"rght",         1, callnothing},
+    {"rght",         1, with1<valuerght>},
     {"road",         1, callnothing},
     {"sin",          1, hostsin},
     {"sinh",         1, hostsinh},
@@ -164,7 +165,7 @@ constexpr BuiltinRow builtinrows[BUILTINS] = {
     {"toupper",      1, hosttoupper},
     {"type",         1, with1<valuetype>},
     {"wave",         1, with1<valuewave>},
-    {"zits",         1, callnothing},
+    {"zits",         1, with1<valuezits>},
     // arity 2, 73 rows
     {"bzero",        2, hostbzero},
     {"calloc",       2, hostcalloc},
