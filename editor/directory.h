@@ -1,0 +1,27 @@
+// What the system tells about directories and their entries.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "foundation/str.h"
+
+namespace tarn {
+
+struct DirectoryEntry {
+  Str name;          // without the directory
+  bool isdirectory;  // else a regular file; links count as what they lead to
+};
+
+// Adds the entries of the directory that are directories or regular files, in any order, without "."
+// and "..". Entries that cannot be looked at are left out. False if the directory cannot be read at
+// all. A directory that cannot be closed ends the process with status 1, after the word "closedir".
+bool readdirectory(const Str& path, std::vector<DirectoryEntry>& found);
+
+// Whether the path names anything at all, be it a link that leads nowhere.
+bool pathexists(const Str& path);
+
+// The size of a file in bytes; -1 if it cannot be told.
+int64_t filesize(const Str& path);
+
+}  // namespace tarn

@@ -1,0 +1,52 @@
+// What fills the cut buffer, and the paste that empties it into a text.
+#include <algorithm>
+
+#include "editor/commands.h"
+#include "editor/history.h"
+#include "editor/reader.h"
+#include "editor/sheet.h"
+#include "editor/state.h"
+#include "editor/status.h"
+
+namespace tarn {
+
+// Cuts the selection, leaving the point where it began.
+static void killselection(sheet& s) {
+  int64_t from = std::min<int64_t>(mark, s.point);
+  int64_t to = std::max<int64_t>(mark, s.point);
+  mark = -1;
+  setstat(currentname);
+  if (from == to) return chirp();
+  clip = stretch(s, from, to);
+  s.point = static_cast<int32_t>(from);
+  opdelete(clip);
+}
+
+// The rest of the line, or its newline where nothing else is left of it.
+static Str restofline(const sheet& s) {
+  int64_t end = lineend(s, s.point);
+  return stretch(s, s.point, end == s.point ? end + 1 : end);
+}
+
+void tarndock() {
+  sheet& s = currentsheet();
+  if (mark >= 0) return killselection(s);
+  if (s.point == size(s)) {
+    killchain = true;
+    return chirp();
+  }
+  Str cut = restofline(s);
+  clip = killchain ? cut : clip + cut;
+  killchain = false;
+  opdelete(cut);
+}
+
+void tarnpaste() {
+  if (!oppaste(clip)) chirp();
+}
+
+void tarndoma() { clip = stat; }
+
+void tarndomz() { clip = flatten(currentsheet()); }
+
+}  // namespace tarn

@@ -1,0 +1,282 @@
+// The matcher: the classes of bytes, a bit-parallel walk, and the leaps over what cannot match.
+#include "editor/match.h"
+
+#include <algorithm>
+#include <cstring>
+#include <string_view>
+
+#include "editor/reader.h"
+#include "editor/window.h"
+#include "foundation/diag.h"
+
+namespace tarn {
+
+// The folding of bytes to letter-like glyphs, two neighbours to each. On purpose: not the glyphs
+// that the screen shows.
+static constexpr char lowfold[] = "~!@#$%^&*<>-|+/=";  // 0 to 31
+static constexpr char highfold[] =                     // 130 to 255
+    "_abcdefghijklmnopqrustvwzxy0123456789ABCDEFGHIJKLMNOPQRUSTVWZXY";
+static_assert(sizeof lowfold == 16 + 1 && sizeof highfold == 63 + 1);
+
+static uint8_t foldbyte(uint8_t b) {
+  if (b == '\n') return b;
+  if (b == 127) return '{';
+  if (b == 128) return '%';
+  if (b == 129) return '}';
+  if (b >= 130) return static_cast<uint8_t>(highfold[(b - 130) / 2]);
+  return b < 32 ? static_cast<uint8_t>(lowfold[b / 2]) : b;
+}
+
+// The classes of plain bytes.
+struct SymbolClass {
+  uint8_t letter;
+  std::string_view bytes;
+};
+
+static constexpr SymbolClass symbolclasses[] = {
+    {'G', "\\;"},
+    {'I', "&|"},
+    {'J', "<=>#"},
+    {'L', "+-.;"},
+    {'M', "%'*/"},
+    {'N', "^?@"},
+    {'O', "!\"$`~"},
+    {'P', "()[]{}"},
+    {'Q', "!@#$%^&*<>-|+/=\\.`'\":;?"},
+};
+
+// The classes of folded bytes.
+static constexpr SymbolClass foldedclasses[] = {
+    {'H', "-.029:<acfhlnoqx"},
+    {'K', "+,136;>bdgikmrty"},
+};
+
+// The classes of kinds: the letter at index i stands for the kinds in the bits of i + 1.
+static constexpr std::string_view kindletters = "RUSTVWZXYABCDEF";
+enum Kind : uint32_t { smallkind = 1, capitalkind = 2, digitkind = 4, otherkind = 8 };
+
+static bool issmall(uint8_t c) { return c >= 'a' && c <= 'z'; }
+static bool iscapital(uint8_t c) { return c >= 'A' && c <= 'Z'; }
+
+static Kind kindof(uint8_t c) {
+  if (issmall(c) || c == '_') return smallkind;
+  if (iscapital(c)) return capitalkind;
+  return c >= '0' && c <= '9' ? digitkind : otherkind;
+}
+
+static bool contains(std::string_view set, uint8_t c) {
+  return set.find(static_cast<char>(c)) != set.npos;
+}
+
+static const SymbolClass* findclass(const SymbolClass* begin, const SymbolClass* end, uint8_t p) {
+  const SymbolClass* found =
+      std::find_if(begin, end, [p](const SymbolClass& row) { return row.letter == p; });
+  return found == end ? nullptr : found;
+}
+
+bool charmatch(uint8_t p, uint8_t b) {
+  if (p <= 32 || p >= 127) return b == p;
+  uint8_t g = foldbyte(b);
+  if (issmall(p)) return g == p || g == p - 'a' + 'A';
+  if (const SymbolClass* row = findclass(std::begin(symbolclasses), std::end(symbolclasses), p)) {
+    return contains(row->bytes, b);
+  }
+  // A plain capital counts as small, so that only high bytes fold to capitals.
+  uint8_t c = iscapital(b) ? static_cast<uint8_t>(b - 'A' + 'a') : g;
+  size_t kinds = kindletters.find(static_cast<char>(p));
+  if (kinds != kindletters.npos) return ((kinds + 1) & kindof(c)) != 0;
+  if (const SymbolClass* row = findclass(std::begin(foldedclasses), std::end(foldedclasses), p)) {
+    return contains(row->bytes, c);
+  }
+  return c == p;
+}
+
+// Making a pattern ready.
+
+// What each pattern byte matches, worked out when it is first used.
+struct MatchRow {
+  bool known;
+  bool matches[256];
+};
+
+static MatchRow matchrows[256];
+
+static const MatchRow& matchrow(uint8_t p) {
+  MatchRow& row = matchrows[p];
+  if (row.known) return row;
+  for (int32_t b = 0; b < 256; b++) row.matches[b] = charmatch(p, static_cast<uint8_t>(b));
+  row.known = true;
+  return row;
+}
+
+static bool matchesat(const Pattern& p, int64_t position, int32_t byte) {
+  return (p.masks[byte] >> (position + 1) & 1) != 0;
+}
+
+// The pair that covers `byte` and as much beside it as the position matches: its other case, or its
+// neighbour in folding, or itself alone.
+static uint8_t widestmask(const Pattern& p, int64_t position, int32_t byte) {
+  if (matchesat(p, position, byte ^ 0x20)) return 0xDF;
+  return matchesat(p, position, byte ^ 1) ? 0xFE : 0xFF;
+}
+
+// A probe of a position; false if its bytes are too many for one.
+static bool probemake(const Pattern& p, int64_t position, Probe& probe) {
+  int32_t pairs = 0;
+  bool covered[256] = {};
+  probe.offset = position;
+  for (int32_t byte = 0; byte < 256; byte++) {
+    if (covered[byte] || !matchesat(p, position, byte)) continue;
+    if (pairs == 3) return false;
+    uint8_t mask = widestmask(p, position, byte);
+    uint8_t value = static_cast<uint8_t>(byte & mask);
+    for (int32_t other = 0; other < 256; other++) covered[other] |= (other & mask) == value;
+    probe.masks[pairs] = mask;
+    probe.values[pairs++] = value;
+  }
+  for (; pairs > 0 && pairs < 3; pairs++) {
+    probe.masks[pairs] = probe.masks[0];
+    probe.values[pairs] = probe.values[0];
+  }
+  return pairs > 0;
+}
+
+// How common the bytes of a pattern byte are in texts and programs, the rarest first; all others
+// are rarer than these.
+static int64_t commonness(uint8_t p) {
+  static constexpr std::string_view common = "zqxjkvwybgpf0123456789m,.udclhrsinoat\ne ";
+  size_t at = common.find(static_cast<char>(p));
+  return at == common.npos ? -1 : static_cast<int64_t>(at);
+}
+
+// Picks the two rarest positions that can be probed; a pattern with only one of them probes it
+// twice.
+static void pickprobes(Pattern& p, const Str& text) {
+  int64_t best[2] = {INT64_MAX, INT64_MAX};
+  for (int64_t i = 0; i < text.len(); i++) {
+    Probe probe;
+    int64_t rank = commonness(text.at(i));
+    if (rank >= best[1] || !probemake(p, i, probe)) continue;
+    int32_t place = rank < best[0] ? 0 : 1;
+    if (place == 0) {
+      best[1] = best[0];
+      p.probe[1] = p.probe[0];
+    }
+    best[place] = rank;
+    p.probe[place] = probe;
+  }
+  if (best[0] == INT64_MAX) return;
+  if (best[1] == INT64_MAX) p.probe[1] = p.probe[0];
+  p.probes = 2;
+}
+
+Pattern patternmake(const Str& text) {
+  check(!text.empty() && text.len() <= patternlimit);
+  Pattern p;
+  p.length = text.len();
+  p.probes = 0;
+  for (uint64_t& mask : p.masks) mask = 1;
+  for (int64_t i = 0; i < text.len(); i++) {
+    const MatchRow& row = matchrow(text.at(i));
+    for (int32_t b = 0; b < 256; b++) p.masks[b] |= uint64_t{row.matches[b]} << (i + 1);
+  }
+  pickprobes(p, text);
+  return p;
+}
+
+// The search goes over the places where a match can start, block by block.
+
+static constexpr int64_t probeblock = 64;    // starts that are probed at once
+static constexpr int64_t plainblock = 4096;  // starts that are walked at once without probes
+
+// Sixteen bytes at once.
+using Bytes = uint8_t __attribute__((vector_size(16)));
+
+static Bytes load(const uint8_t* from) {
+  Bytes bytes;
+  memcpy(&bytes, from, sizeof bytes);
+  return bytes;
+}
+
+static Bytes probed(const Probe& probe, Bytes b) {
+  Bytes found = {};
+  for (int32_t i = 0; i < 3; i++) found |= Bytes((b & probe.masks[i]) == probe.values[i]);
+  return found;
+}
+
+// Whether one of the probeblock places at and behind `starts` passes both probes.
+static bool blockpasses(const Pattern& p, const uint8_t* starts) {
+  Bytes any = {};
+  for (int64_t i = 0; i < probeblock; i += static_cast<int64_t>(sizeof(Bytes))) {
+    any |= probed(p.probe[0], load(starts + p.probe[0].offset + i)) &
+           probed(p.probe[1], load(starts + p.probe[1].offset + i));
+  }
+  uint64_t halves[2];
+  memcpy(halves, &any, sizeof halves);
+  return (halves[0] | halves[1]) != 0;
+}
+
+// Whether a match may start among the `count` places from `start` on.
+static bool maymatch(reader& r, const Pattern& p, int64_t start, int64_t count) {
+  if (p.probes == 0 || count < probeblock || !readto(r, start)) return true;
+  int64_t within = start - r.start;
+  if (within + probeblock + p.length > r.length) return true;
+  return blockpasses(p, r.bytes + within);
+}
+
+// The end of the first match, or the last, that starts among the `count` places from `start` on;
+// -1 if there is none. All of the last one's bytes must lie in the text.
+static int64_t walkblock(reader& r, const Pattern& p, int64_t start, int64_t count, bool last) {
+  int64_t stop = start + count + p.length - 1;
+  int64_t found = -1;
+  uint64_t state = 1;
+  for (int64_t i = start; i < stop && readto(r, i);) {
+    int64_t end = std::min(stop, r.start + r.length);
+    const uint8_t* bytes = r.bytes - r.start;
+    for (; i < end; i++) {
+      state = patternstep(p, state, bytes[i]);
+      if (!patternhit(p, state)) continue;
+      found = i + 1;
+      if (!last) return found;
+    }
+  }
+  return found;
+}
+
+// The end of the first match that ends in [low, high], or of the last.
+static int64_t matchwithin(reader& r, const Pattern& p, int64_t low, int64_t high, bool last) {
+  int64_t from = std::max<int64_t>(0, low - p.length);  // the starts are [from, to)
+  int64_t to = high - p.length + 1;
+  int64_t block = p.probes == 0 ? plainblock : probeblock;
+  while (from < to) {
+    int64_t count = std::min(block, to - from);
+    int64_t start = last ? to - count : from;
+    if (maymatch(r, p, start, count)) {
+      int64_t found = walkblock(r, p, start, count, last);
+      if (found >= 0) return found;
+    }
+    last ? to -= count : from += count;
+  }
+  return -1;
+}
+
+int64_t matchfrom(const sheet& s, const Pattern& p, int64_t from, bool forward) {
+  int64_t end = size(s);
+  reader r = readsheet(s);
+  int64_t behind = from == 0 ? end - 1 : end;  // the end of the text is the start come round again
+  int64_t found = forward ? matchwithin(r, p, from + 1, behind, false)
+                          : matchwithin(r, p, 1, from - 1, true);
+  if (found >= 0) return found;
+  return forward ? matchwithin(r, p, 1, from - 1, false)
+                 : matchwithin(r, p, from + 1, behind, true);
+}
+
+bool searchfrom(sheet& s, const Str& pattern, bool forward) {
+  int64_t found = matchfrom(s, patternmake(pattern), s.point, forward);
+  if (found < 0) return false;
+  s.point = static_cast<int32_t>(found);
+  showpoint(s);
+  return true;
+}
+
+}  // namespace tarn

@@ -1,0 +1,57 @@
+// Searching. A pattern is a text in which some letters stand for classes of bytes: a small letter
+// matches either case and a capital never matches just itself; bytes that do not print match
+// through the letter that they fold to.
+//
+//   R  a name letter      T  a digit            F  anything
+//   G  \ ;                I  & |                J  < = > #          L  + - . ;
+//   M  % ' * /            N  ^ ? @              O  ! " $ ` ~        P  ( ) [ ] { }
+//   Q  any symbol         the other capitals: see match.cpp
+#pragma once
+
+#include <cstdint>
+
+#include "editor/sheet.h"
+#include "foundation/str.h"
+
+namespace tarn {
+
+inline constexpr int64_t patternlimit = 63;  // bytes; with the empty prefix the 64 bits of a word
+
+// Whether one pattern byte matches a byte of a text.
+bool charmatch(uint8_t p, uint8_t b);
+
+// Tests one position of a pattern on many bytes at once: byte b may match there only if
+// (b & mask) == value for one of the pairs.
+struct Probe {
+  int64_t offset;  // of the position in the pattern
+  uint8_t masks[3];
+  uint8_t values[3];
+};
+
+// A pattern made ready. Bit n of the state of a match says that the last n bytes read match the first
+// n of the pattern; a byte takes it to `masks[byte] & (state * 2 + 1)`, from 1 at the start.
+struct Pattern {
+  int64_t length;       // 1 to patternlimit
+  uint64_t masks[256];  // bit i + 1: the byte matches at position i; bit 0 always
+  int32_t probes;       // 0 if no position is worth a probe, else 2
+  Probe probe[2];       // the most telling positions
+};
+
+// The text must not be empty and no longer than the limit.
+Pattern patternmake(const Str& text);
+
+inline uint64_t patternstep(const Pattern& p, uint64_t state, uint8_t byte) {
+  return p.masks[byte] & (state * 2 + 1);
+}
+inline bool patternhit(const Pattern& p, uint64_t state) { return (state >> p.length & 1) != 0; }
+
+// The end of the first match that ends behind `from`, going on from the start of the text up to
+// `from`; or backward the other way round. -1 if there is none. A match that ends at `from` itself does not
+// count, and the end of the text counts as its start does: from 0 or from the size, neither is found.
+int64_t matchfrom(const sheet& s, const Pattern& p, int64_t from, bool forward);
+
+// Moves the point to the next match from it, just behind its last byte, and shows it; false, and
+// nothing has moved, if there is none.
+bool searchfrom(sheet& s, const Str& pattern, bool forward);
+
+}  // namespace tarn

@@ -1,0 +1,61 @@
+// Swap: replaces one text by another, in the selection or everywhere. The first text is typed under
+// the word "Swap", the second under "With".
+#include <algorithm>
+
+#include "editor/commands.h"
+#include "editor/history.h"
+#include "editor/paint.h"
+#include "editor/prompts.h"
+#include "editor/sheet.h"
+#include "editor/state.h"
+#include "editor/status.h"
+#include "foundation/alphabet.h"
+
+namespace tarn {
+
+using namespace std::literals;
+
+static void paintswap() { paintsheet("Swap"); }
+static void paintwith() { paintsheet("With"); }
+
+static void enterswap() {
+  repaint = paintswap;
+  setstat("");
+}
+
+static void leaveswap() {
+  mark = -1;
+  leave();
+}
+
+// Both texts are inked, so that a replacement can change the colour of a word.
+static void typeswap(uint8_t key) { setstat(stat + strbyte(nopqchar(inkmode, key))); }
+
+static void replaceall() {
+  const sheet& s = currentsheet();
+  int64_t from = mark < 0 ? 0 : std::min<int64_t>(mark, s.point);
+  int64_t to = mark < 0 ? size(s) : std::max<int64_t>(mark, s.point);
+  if (!opreplace(from, to, chooserdir, stat)) chirp();
+  leaveswap();
+}
+
+static void endfield() {
+  if (repaint == paintwith) return replaceall();
+  chooserdir = stat;
+  repaint = paintwith;
+  setstat("");
+}
+
+static constexpr PromptKey swapkeys[] = {
+    {"\t"sv, endfield},
+    {"\x7F"sv, dropstat},
+    {"\x07"sv, leaveswap},  // C-g
+    {"\x1Br"sv, redink},
+    {"\x1Bg"sv, greenink},
+    {"\x1By"sv, yellowink},
+};
+static constexpr Prompt swapprompt = {2, enterswap, swapkeys, typeswap, chirp};
+
+void tarndomx() { runprompt(swapprompt); }
+
+}  // namespace tarn
