@@ -259,10 +259,13 @@ TEST(CellTest, FillingASlotDropsWhatWasThere) {
   EXPECT_EQ(alive(), before);
 }
 
-TEST(CellDeathTest, ArraysHaveALimit) {
-  EXPECT_FAILS(craynew(0x4000000), "graph/cell.cpp");
-  EXPECT_FAILS(craynew(-1), "graph/cell.cpp");
+TEST(CellTest, AnArrayThatOutgrowsItsCountKeepsTheLowBits) {
+  CellRef array = craynew(0x4000001);
+  EXPECT_EQ(crayslots(array), 1);
+  EXPECT_EQ(crayslot(array, 0x4000000), nullptr);
 }
+
+TEST(CellDeathTest, SlotsCannotBeFewerThanNone) { EXPECT_FAILS(craynew(-1), "graph/cell.cpp"); }
 
 TEST(CellTest, CountsTellWhatWasMadeAndWhatLives) {
   CellCounts before = cellcounts();
