@@ -31,7 +31,8 @@ struct Peer {
 };
 
 constexpr int64_t bigbytes = 100'000'000;
-constexpr const char* base64digits = "_abcdefghijklmnopqrustvwzxy0123456789ABCDEFGHIJKLMNOPQRUSTVWZXY~";
+constexpr const char* base64digits =
+    "_abcdefghijklmnopqrustvwzxy0123456789ABCDEFGHIJKLMNOPQRUSTVWZXY~";
 
 std::vector<Peer> allpeers(const char* tarn, const char* echo) {
   return {
@@ -95,7 +96,9 @@ Launch launchof(const Peer& peer, const Files& files, Place place) {
     launch.argv.push_back(with(peer.atline, std::to_string(bigbytes / 100)));
   if (place == middleofone && peer.atcolumn != nullptr)
     launch.argv.push_back(with(peer.atcolumn, std::to_string(bigbytes / 2)));
-  launch.argv.push_back(place == emptyfile ? files.empty : place == middleofmany ? files.many : files.one);
+  launch.argv.push_back(place == emptyfile       ? files.empty
+                        : place == middleofmany ? files.many
+                                                : files.one);
   return launch;
 }
 
@@ -236,7 +239,8 @@ double pastetime(const Peer& peer, const Files& files) {
 }
 
 void benchpaste(const std::vector<Peer>& peers, const Files& files) {
-  headline("100,000 bytes pasted into an empty file, until the last is seen, ms", "      time   to Tarn");
+  headline("100,000 bytes pasted into an empty file, until the last is seen, ms",
+           "      time   to Tarn");
   double tarn = 0;
   for (const Peer& peer : peers) showtime(peer, pastetime(peer, files), tarn);
 }

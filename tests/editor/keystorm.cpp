@@ -1,11 +1,11 @@
 // keystorm PROGRAM [KEYS [SEED]]: throws random keys at the editor, with resizes between them. It
 // must live, send nothing to the terminal but its own sequences, and show at the end of each bout
-// what painting from nothing shows. Keys go in bouts of 2000, each with a seed of its own in a fresh
-// directory, so that a failure can be thrown again by itself.
+// what painting from nothing shows. Keys go in bouts of 2000, each with a seed of its own in a
+// fresh directory, so that a failure can be thrown again by itself.
 //
-// Left out are the keys that would reach beyond that directory or never come back: C-c, C-w and "w",
-// which could save over a file of the system, and ESC e, since a random program may run for ever.
-// Saving is done by deliberate strokes instead.
+// Left out are the keys that would reach beyond that directory or never come back: C-c; C-w and
+// "w", which could save over a file of the system; and ESC e, since a random program may run for
+// ever. Saving is done by deliberate strokes instead.
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -35,29 +35,37 @@ struct Storm {
   std::string fault;
 };
 
-int below(Storm& storm, int n) { return static_cast<int>(storm.random() % static_cast<uint64_t>(n)); }
+int below(Storm& storm, size_t n) { return static_cast<int>(storm.random() % n); }
+
+std::string onebyte(int value) { return std::string(1, static_cast<char>(value)); }
 
 std::string pick(Storm& storm, const std::string& from) {
-  return std::string(1, from[static_cast<size_t>(below(storm, static_cast<int>(from.size())))]);
+  return onebyte(from[static_cast<size_t>(below(storm, from.size()))]);
 }
 
 // ---- Keys, by the share of each sort
 
-std::string printable(Storm& storm) { return std::string(1, static_cast<char>(0x20 + below(storm, 95))); }
-std::string control(Storm& storm) { return std::string(1, static_cast<char>(below(storm, 32))); }
-std::string anybyte(Storm& storm) { return std::string(1, static_cast<char>(below(storm, 256))); }
+std::string printable(Storm& storm) { return onebyte(0x20 + below(storm, 95)); }
+std::string control(Storm& storm) { return onebyte(below(storm, 32)); }
+std::string anybyte(Storm& storm) { return onebyte(below(storm, 256)); }
 std::string meta(Storm& storm) { return "\x1b" + pick(storm, "abcdfghijklmnopqrsutvzxyabghirysx"); }
 std::string arrow(Storm& storm) { return "\x1b[" + pick(storm, "ABCD"); }
-std::string motion(Storm& storm) { return pick(storm, "\x01\x02\x04\x05\x06\x0b\x0c\x0e\x10\x15\x1c\x1f\x12\x7f\r"); }
+
+// Those that move and change much.
+std::string busy(Storm& storm) {
+  return pick(storm, "\x01\x02\x04\x05\x06\x0b\x0c\x0e\x10\x15\x1c\x1f\x12\x7f\r");
+}
 
 std::string functionkey(Storm& storm) {
-  static const std::string keys[] = {"\x1b[H", "\x1b[F", "\x1b[5~", "\x1b[6~", "\x1b[2~", "\x1b[3~",
-                                     "\x1bOP", "\x1bOA", "\x1b[[A", "\x1b\x1b[B", "\x1b[1;5C", "\x1b[15~"};
+  static const std::string keys[] = {"\x1b[H",  "\x1b[F",  "\x1b[5~", "\x1b[6~",
+                                     "\x1b[2~", "\x1b[3~", "\x1bOP",  "\x1bOA",
+                                     "\x1b[[A", "\x1b\x1b[B", "\x1b[1;5C", "\x1b[15~"};
   return keys[below(storm, 12)];
 }
 
 std::string wide(Storm& storm) {
-  static const std::string keys[] = {"\xc3\xa4", "\xe2\x82\xac", "\xf0\x9f\x98\x80", "\xc3", "\x80"};
+  static const std::string keys[] = {"\xc3\xa4", "\xe2\x82\xac", "\xf0\x9f\x98\x80", "\xc3",
+                                     "\x80"};
   return keys[below(storm, 5)];
 }
 
@@ -66,7 +74,7 @@ struct Share {
   std::string (*key)(Storm&);
 };
 
-const Share shares[] = {{50, printable}, {18, motion}, {10, control}, {10, meta},
+const Share shares[] = {{50, printable}, {18, busy}, {10, control}, {10, meta},
                         {5, arrow},      {3, functionkey}, {2, wide}, {2, anybyte}};
 
 std::string onekey(Storm& storm) {
@@ -111,7 +119,8 @@ void makefiles(const Storm& storm) {
   }
   std::ofstream lines(storm.directory + "/lines");
   for (int line = 0; line < 200; line++) lines << "line " << line << "\n";
-  std::ofstream(storm.directory + "/wide") << std::string(3000, 'm') << "\n\n" << std::string(80, 'n');
+  std::ofstream wide(storm.directory + "/wide");
+  wide << std::string(3000, 'm') << "\n\n" << std::string(80, 'n');
   std::ofstream(storm.directory + "/empty");
 }
 
@@ -127,7 +136,8 @@ void look(Storm& storm, Bout& bout) {
   readstrictly(bout.strict, log.data() + bout.checked, log.size() - bout.checked);
   bout.checked = log.size();
   if (!bout.strict.fault.empty()) storm.fault = "not for a terminal: " + bout.strict.fault;
-  if (bout.session.ended) storm.fault = "it ended with status " + std::to_string(bout.session.status);
+  if (bout.session.ended)
+    storm.fault = "it ended with status " + std::to_string(bout.session.status);
 }
 
 void throwkeys(Storm& storm, Bout& bout, const std::string& burst) {
@@ -185,8 +195,8 @@ void runbout(Storm& storm, const std::string& program, int keys) {
   if (storm.fault.empty()) paintanew(storm, bout);
   if (storm.fault.empty()) leave(storm, bout);
   if (storm.fault.empty()) return;
-  std::string tail = storm.sent.size() > 400 ? storm.sent.substr(storm.sent.size() - 400) : storm.sent;
-  printf("%s\nlast keys: %s\n%s", storm.fault.c_str(), inquotes(tail).c_str(),
+  size_t last = storm.sent.size() > 400 ? storm.sent.size() - 400 : 0;
+  printf("%s\nlast keys: %s\n%s", storm.fault.c_str(), inquotes(storm.sent.substr(last)).c_str(),
          picture(bout.session.terminal, false).c_str());
 }
 

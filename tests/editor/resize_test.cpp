@@ -30,7 +30,8 @@ TEST(Resize, EachIsShownWithoutAKey) {
   ASSERT_TRUE(session.settle());
   for (int i = 0; i < 1000; i++) {
     session.resize(40 + i % 50, height);
-    ASSERT_TRUE(session.until([&] { return paintedat(session.terminal); }, 10000)) << "resize " << i;
+    bool painted = session.until([&] { return paintedat(session.terminal); }, 10000);
+    ASSERT_TRUE(painted) << "resize " << i;
   }
 }
 

@@ -72,7 +72,8 @@ std::string contents(const std::string& path) {
 
 std::string abridged(const std::string& text) {
   std::string all = inquotes(text);
-  return all.size() <= 2000 ? all : all.substr(0, 2000) + "... (" + std::to_string(text.size()) + ")";
+  if (all.size() <= 2000) return all;
+  return all.substr(0, 2000) + "... (" + std::to_string(text.size()) + ")";
 }
 
 // ---- What is prepared
@@ -89,7 +90,7 @@ void dooldbackspace(Play& p, std::string) { p.launch.oldbackspace = true; }
 void dofile(Play& p, std::string rest) {
   std::string path = pathof(p, nextword(rest));
   std::string text = readtext(rest, p.fault);
-  std::ofstream(path, std::ios::binary).write(text.data(), static_cast<std::streamsize>(text.size()));
+  std::ofstream(path, std::ios::binary) << text;
   if (access(path.c_str(), F_OK) != 0) p.fault = "cannot write " + path;
 }
 
@@ -173,9 +174,10 @@ struct SignalName {
   const char* name;
   int number;
 };
-const SignalName signalnames[] = {{"SIGHUP", SIGHUP},   {"SIGINT", SIGINT},   {"SIGTERM", SIGTERM},
-                                  {"SIGCONT", SIGCONT}, {"SIGWINCH", SIGWINCH}, {"SIGABRT", SIGABRT},
-                                  {"SIGPIPE", SIGPIPE}};
+const SignalName signalnames[] = {
+    {"SIGABRT", SIGABRT}, {"SIGCONT", SIGCONT}, {"SIGHUP", SIGHUP},     {"SIGINT", SIGINT},
+    {"SIGPIPE", SIGPIPE}, {"SIGTERM", SIGTERM}, {"SIGWINCH", SIGWINCH},
+};
 
 int signalof(Play& p, const std::string& name) {
   for (const SignalName& s : signalnames)
@@ -242,7 +244,8 @@ void wantnodisk(Play& p, std::string rest) {
 void wantsays(Play& p, std::string rest) {
   std::string seen = p.session->terminal.log;
   replaceall(seen, "\r\n", "\n");
-  if (seen.find(readtext(rest, p.fault)) == std::string::npos) p.fault = "it said " + abridged(seen);
+  std::string wanted = readtext(rest, p.fault);
+  if (seen.find(wanted) == std::string::npos) p.fault = "it said " + abridged(seen);
 }
 
 void wantend(Play& p, bool right) {
@@ -348,7 +351,8 @@ void checkrepaint(Play& p) {
 void endstep(Play& p) {
   if (!p.session || !p.lasting) return;
   int rung = p.session->terminal.bells - p.bellsbefore;
-  if (p.session->ended) p.fault = "the program has ended, status " + std::to_string(p.session->status);
+  if (p.session->ended)
+    p.fault = "the program has ended, status " + std::to_string(p.session->status);
   else if (rung != 0 && !p.bellstold) p.fault = "the bell rang " + std::to_string(rung) + " times";
   if (p.fault.empty()) checkoutput(p);
   if (p.fault.empty() && p.pace == Pace::repainted) checkrepaint(p);
@@ -385,6 +389,12 @@ void run(Play& p, const Statement& statement) {
   }
 }
 
+std::string makedirectory(const std::string& wanted) {
+  char fresh[] = "/tmp/tarnXXXXXX";
+  if (wanted.empty()) return mkdtemp(fresh) == nullptr ? "" : fresh;
+  return mkdir(wanted.c_str(), 0777) == 0 ? wanted : "";
+}
+
 std::string report(const Play& p, int line) {
   std::string text = p.scenario.path + ":" + std::to_string(line) + ": " + p.fault + "\n";
   if (p.session) text += picture(p.session->terminal, false);
@@ -393,11 +403,11 @@ std::string report(const Play& p, int line) {
 
 }  // namespace
 
-std::string play(const Scenario& scenario, const std::string& program, Pace pace) {
-  if (!scenario.error.empty()) return scenario.error;
-  char name[] = "/tmp/tarnXXXXXX";
-  if (mkdtemp(name) == nullptr) return "cannot make a directory in /tmp\n";
-  Play p = {scenario, program, pace, name};
+std::string play(const Scenario& scenario, const Stage& stage) {
+  if (!scenario.error.empty()) return scenario.error + "\n";
+  std::string program = std::filesystem::absolute(stage.program);
+  Play p = {scenario, program, stage.pace, makedirectory(stage.directory)};
+  if (p.directory.empty()) return "cannot make a directory for " + scenario.path + "\n";
   p.launch.home = p.launch.directory = p.directory;
   int line = 0;
   for (const Statement& statement : scenario.statements) {
@@ -407,6 +417,7 @@ std::string play(const Scenario& scenario, const std::string& program, Pace pace
   }
   if (p.fault.empty()) endstep(p);
   std::string said = p.fault.empty() ? "" : report(p, line);
+  if (said.empty() && stage.lastscreen && p.session) stage.lastscreen(p.session->terminal);
   p.session.reset();
   std::error_code error;
   std::filesystem::remove_all(p.directory, error);

@@ -1,9 +1,11 @@
-// Plays a scenario against the real program, in a fresh directory under /tmp.
+// Plays a scenario against the real program.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "tests/support/scenario.h"
+#include "tests/support/terminal.h"
 
 namespace tarn {
 
@@ -12,7 +14,14 @@ namespace tarn {
 // nothing, which must change no cell.
 enum class Pace { together, apart, repainted };
 
+struct Stage {
+  std::string program;         // its path
+  Pace pace = Pace::together;
+  std::string directory = "";  // made for the scenario and removed; a fresh one in /tmp if it is ""
+  std::function<void(const Terminal&)> lastscreen = nullptr;  // called with it, if all went well
+};
+
 // Says what went wrong, with the place in the file and the screen as it was; "" if nothing did.
-std::string play(const Scenario& scenario, const std::string& program, Pace pace);
+std::string play(const Scenario& scenario, const Stage& stage);
 
 }  // namespace tarn

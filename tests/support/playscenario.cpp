@@ -16,7 +16,7 @@ int main(int argc, char** argv) {
                {tarn::Pace::repainted, "painted anew after each step"}};
   tarn::Scenario scenario = tarn::readscenario(argv[2]);
   for (auto& pace : paces) {
-    std::string fault = tarn::play(scenario, argv[1], pace.pace);
+    std::string fault = tarn::play(scenario, {argv[1], pace.pace});
     if (fault.empty()) continue;
     printf("(%s)\n%s", pace.name, fault.c_str());
     return 1;

@@ -10,7 +10,8 @@ namespace {
 void startrow(Statement& statement, const std::string& line, int number) {
   RowWanted row;
   row.line = number;
-  row.kind = line[0] == '|' ? RowWanted::whole : line[0] == ':' ? RowWanted::prefix : RowWanted::any;
+  if (line[0] == ':') row.kind = RowWanted::prefix;
+  if (line[0] == '~') row.kind = RowWanted::any;
   row.text = line.substr(1);
   statement.rows.push_back(row);
 }

@@ -55,7 +55,7 @@ winsize windowsize(int columns, int rows) {
   setenv("LC_ALL", "C", 1);
   if (!launch.directory.empty() && chdir(launch.directory.c_str()) != 0) _exit(126);
   std::vector<char*> argv;
-  for (const std::string& argument : launch.argv) argv.push_back(const_cast<char*>(argument.c_str()));
+  for (const std::string& word : launch.argv) argv.push_back(const_cast<char*>(word.c_str()));
   argv.push_back(nullptr);
   execvp(argv[0], argv.data());
   _exit(127);
@@ -104,7 +104,8 @@ Doing doingof(pid_t pid) {
 
 }  // namespace
 
-Session::Session(const Launch& launch) : terminal(launch.width, launch.height), oldbackspace(launch.oldbackspace) {
+Session::Session(const Launch& launch)
+    : terminal(launch.width, launch.height), oldbackspace(launch.oldbackspace) {
   termios modes = shellmodes(launch.oldbackspace);
   winsize size = windowsize(launch.width, launch.height);
   if (openpty(&master, &slave, nullptr, &modes, &size) != 0) {
@@ -140,7 +141,9 @@ int64_t Session::nanoseconds() {
 
 int64_t Session::cputime() const {
   int64_t spent = 0;
-  eachtask(pid, [&](const std::string& task) { spent += atoll(slurp(task + "/schedstat").c_str()); });
+  eachtask(pid, [&](const std::string& task) {
+    spent += atoll(slurp(task + "/schedstat").c_str());
+  });
   return spent;
 }
 

@@ -89,7 +89,7 @@ TEST(Session, AProgramThatIsNotThere) {
 std::string played(const std::string& lines) {
   std::string path = testing::TempDir() + "played" + std::to_string(getpid()) + ".scene";
   std::ofstream(path) << "size 20 4\nstart\n" << lines;
-  std::string said = play(readscenario(path), ECHO, Pace::apart);
+  std::string said = play(readscenario(path), {ECHO, Pace::apart});
   unlink(path.c_str());
   return said.substr(0, said.find('\n'));
 }
@@ -120,7 +120,8 @@ TEST(Player, FindsWhatIsWrong) {
 TEST(Player, FindsWhatNobodyAskedFor) {
   EXPECT_EQ(played("keys <TAB>\nkeys a\n"), at(4, "the bell rang 1 times"));
   EXPECT_EQ(played("keys <TAB>\n"), at(3, "the bell rang 1 times"));
-  EXPECT_EQ(played("keys <0x80>\n"), at(3, "not for a terminal: \"\\x80\" at byte 6 of the output"));
+  EXPECT_EQ(played("keys <0x80>\n"),
+            at(3, "not for a terminal: \"\\x80\" at byte 6 of the output"));
   EXPECT_EQ(played("keys <C-d>\n"), at(3, "the program has ended, status 0"));
 }
 
