@@ -11,6 +11,7 @@
 #include "editor/edits.h"
 #include "editor/history.h"
 #include "editor/reader.h"
+#include "editor/window.h"
 #include "foundation/text.h"
 
 namespace tarn {
@@ -93,7 +94,7 @@ void tododented(sheet& s, const oper& o) {
     }
   }
   setpoint(s, point);
-  settle(s);
+  showpoint(s);
 }
 
 // Each line put right moves the next one to where it was, so the end of the range holds as stored.
@@ -109,7 +110,7 @@ void undodented(sheet& s, const oper& o) {
     }
   }
   setpoint(s, d.point);
-  settle(s);
+  showpoint(s);
 }
 
 }  // namespace tarn

@@ -139,7 +139,7 @@ static void runother() {
 // The way out of a mode that shows a fault until the next key.
 static void endfault() {
   Str keys = line;
-  leave();
+  leaveunpainted();
   line = keys;
   showsfault = false;
 }

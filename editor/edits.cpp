@@ -13,11 +13,6 @@ void setpoint(sheet& s, int64_t i) {
   s.point = static_cast<int32_t>(i);
 }
 
-void settle(sheet& s) {
-  aligntop(s);
-  showpoint(s);
-}
-
 bool carry(opertype w, int64_t t, const Str& data) {
   enteroper(opermake(w, t, data));
   edittodo(operv(lastoper()));
@@ -99,13 +94,13 @@ void undotyped(sheet& s, const oper& o) {
 static void putin(sheet& s, int64_t t, const Str& text) {
   setpoint(s, t);
   insertstring(s, text);
-  settle(s);
+  showpoint(s);
 }
 
 static void takeout(sheet& s, int64_t t, int64_t n) {
   setpoint(s, t);
   deletecount(s, n);
-  settle(s);
+  showpoint(s);
 }
 
 bool oppaste(const Str& text) {

@@ -27,7 +27,4 @@ void setpoint(sheet& s, int64_t i);
 // Whether the text can grow by that many bytes.
 bool fits(const sheet& s, int64_t more);
 
-// Keeps the window right after a change that can lie above it.
-void settle(sheet& s);
-
 }  // namespace tarn

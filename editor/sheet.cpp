@@ -102,9 +102,14 @@ bool ischanged(const sheet& s, int64_t i, uint8_t byte) {
 
 // ---- Changing.
 
+static void touch(sheet& s, int32_t from) {
+  if (from < s.touched) s.touched = from;
+}
+
 void insertbyte(sheet& s, uint8_t byte) {
   bool wasclean = isclean(s);
   shardinsert(s.root, s.point, shardsingle(byte));
+  touch(s, s.point);
   boundsinserted(s, 1, wasclean);
 }
 
@@ -124,6 +129,7 @@ static void insertrun(sheet& s, const Str& text) {
   bool wasclean = isclean(s);
   keep(s, text);
   shardinsert(s.root, s.point, shardrun(text.bytes(), text.len()));
+  touch(s, s.point);
   boundsinserted(s, text.len(), wasclean);
   s.point += static_cast<int32_t>(text.len());
 }
@@ -139,6 +145,7 @@ void insertstring(sheet& s, const Str& text) {
 void deletecount(sheet& s, int64_t n) {
   if (n == 0) return;
   shardremove(s.root, s.point, n);
+  touch(s, s.point);
   boundsdeleted(s, n);
 }
 
@@ -159,6 +166,7 @@ void retext(sheet& s, const Str& text) {
     shardinsert(s.root, 0, shardrun(text.bytes() + low, high - low));
   }
   if (low > 0) shardinsert(s.root, 0, shardrun(s.saved.bytes(), low));
+  touch(s, 0);
   if (s.point > n) s.point = static_cast<int32_t>(n);
 }
 

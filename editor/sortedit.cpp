@@ -24,7 +24,7 @@ void todosorted(sheet& s, const oper& o) {
 void undosorted(sheet& s, const oper& o) {
   retext(s, o.data);
   setpoint(s, opert(o));
-  settle(s);
+  showpoint(s);
 }
 
 }  // namespace tarn

@@ -33,13 +33,16 @@ void switchbuffer(const Str& name) {
   leave();
 }
 
-void replay() {
-  Str key = line.substr(lastkey(line));
+void leaveunpainted() {
   leave();
-  // The plain painter has its effects on the state, but only the last state is painted.
   holdpaint(true);
   repaint();
   holdpaint(false);
+}
+
+void replay() {
+  Str key = line.substr(lastkey(line));
+  leaveunpainted();
   line = key;
   bool outer = suppressed;
   suppressed = true;

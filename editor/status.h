@@ -15,6 +15,10 @@ void chirp();
 // paintfile. Nothing is painted, as dispatch does that behind every command.
 void leave();
 
+// Leaves, and lets the plain painter have its effects on the state, as if it had painted; the paint
+// itself is owed.
+void leaveunpainted();
+
 // Makes a buffer, a key of `sheets`, the current one, and leaves. Its window is brought in line with
 // the size that the screen has now.
 void switchbuffer(const Str& name);

@@ -11,6 +11,7 @@
 
 #include "editor/edits.h"
 #include "editor/history.h"
+#include "editor/window.h"
 #include "foundation/text.h"
 
 namespace tarn {
@@ -100,7 +101,7 @@ static void splice(sheet& s, int64_t from, int64_t to, const Str& middle) {
     copybytes(s, to, size(s), out + from + middle.len());
   }
   retext(s, text);
-  settle(s);
+  showpoint(s);
 }
 
 void todoswapped(sheet& s, const oper& o) {

@@ -81,6 +81,7 @@ static int64_t windowrow(sheet& s, int64_t i) {
 bool pointshows(sheet& s) { return windowrow(s, s.point) >= 0; }
 
 void recentre(sheet& s) {
+  refreshrows(s);
   s.top = static_cast<int32_t>(rowsabove(s, s.point, (height - 2) / 2));
 }
 
