@@ -1,4 +1,5 @@
-// Product by column sums and quotient by trial words, both as on paper, with eight digits for one.
+// Product by column sums and quotient by trial words, both as on paper, with eight digits for one;
+// long products are put together from shorter ones.
 #include "values/digitwords.h"
 
 #include <algorithm>
@@ -70,8 +71,8 @@ static void settle(uint64_t* columns, size_t n) {
   }
 }
 
-DigitWords wordsproduct(const DigitWords& a, const DigitWords& b) {
-  if (a.size() < b.size()) return wordsproduct(b, a);
+// a must not be shorter than b.
+static DigitWords columnproduct(const DigitWords& a, const DigitWords& b) {
   std::vector<uint64_t> columns(a.size() + b.size());
   for (size_t j = 0; j < b.size(); j++) {
     addrow(columns.data() + j, a.data(), a.size(), b[j]);
@@ -81,6 +82,75 @@ DigitWords wordsproduct(const DigitWords& a, const DigitWords& b) {
   DigitWords product(columns.begin(), columns.end());
   trim(product);
   return product;
+}
+
+// --- Long products -------------------------------------------------------------------------------
+
+// From so many words on, three products of half the length beat four.
+constexpr size_t SPLITWORDS = 256;
+
+static DigitWords slice(const DigitWords& a, size_t from, size_t to) {
+  DigitWords part(a.data() + from, a.data() + to);
+  trim(part);
+  return part;
+}
+
+// sum, which must have room for the carry, becomes sum plus a times the base to the power of `at`.
+static void addat(DigitWords& sum, const DigitWords& a, size_t at) {
+  uint32_t carry = 0;
+  for (size_t i = 0; i < a.size() || carry != 0; i++) {
+    uint32_t word = sum[at + i] + (i < a.size() ? a[i] : 0) + carry;
+    carry = word >= WORDBASE;
+    sum[at + i] = static_cast<uint32_t>(word - carry * WORDBASE);
+  }
+}
+
+static DigitWords plus(const DigitWords& a, const DigitWords& b) {
+  DigitWords sum = a;
+  sum.resize(std::max(a.size(), b.size()) + 1);
+  addat(sum, b, 0);
+  trim(sum);
+  return sum;
+}
+
+static void takeaway(DigitWords& from, const DigitWords& a) {
+  uint32_t borrow = 0;
+  for (size_t i = 0; i < a.size() || borrow != 0; i++) {
+    uint32_t less = (i < a.size() ? a[i] : 0) + borrow;
+    borrow = from[i] < less;
+    from[i] = static_cast<uint32_t>(from[i] + borrow * WORDBASE - less);
+  }
+}
+
+// a is cut in two. If b is longer than half of a, it is cut at the same place, and the middle of the
+// product comes from one product of sums: (a0 + a1) (b0 + b1) less the two outer products.
+static DigitWords splitproduct(const DigitWords& a, const DigitWords& b) {
+  size_t half = (a.size() + 1) / 2;
+  DigitWords a0 = slice(a, 0, half);
+  DigitWords a1 = slice(a, half, a.size());
+  DigitWords product(a.size() + b.size() + 1);
+  if (b.size() <= half) {
+    addat(product, wordsproduct(a0, b), 0);
+    addat(product, wordsproduct(a1, b), half);
+  } else {
+    DigitWords b0 = slice(b, 0, half);
+    DigitWords b1 = slice(b, half, b.size());
+    DigitWords low = wordsproduct(a0, b0);
+    DigitWords high = wordsproduct(a1, b1);
+    DigitWords middle = wordsproduct(plus(a0, a1), plus(b0, b1));
+    takeaway(middle, low);
+    takeaway(middle, high);
+    addat(product, low, 0);
+    addat(product, middle, half);
+    addat(product, high, 2 * half);
+  }
+  trim(product);
+  return product;
+}
+
+DigitWords wordsproduct(const DigitWords& a, const DigitWords& b) {
+  if (a.size() < b.size()) return wordsproduct(b, a);
+  return b.size() < SPLITWORDS ? columnproduct(a, b) : splitproduct(a, b);
 }
 
 // --- Quotient ------------------------------------------------------------------------------------

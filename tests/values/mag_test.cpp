@@ -118,6 +118,45 @@ TEST(Mag, QuotientsAgreeWithTheSlowWay) {
   }
 }
 
+// What is left over after division by a prime, digit by digit.
+uint64_t residue(const std::string& digits, uint64_t prime) {
+  uint64_t rest = 0;
+  for (char digit : digits) rest = (rest * 10 + static_cast<uint64_t>(digit - '0')) % prime;
+  return rest;
+}
+
+std::string longdigits(Random& random, size_t n) {
+  std::string digits = "7";
+  while (digits.size() < n) digits += randomdigits(random, 100);
+  return digits;
+}
+
+TEST(Mag, LongProductsLeaveTheRightResidues) {
+  Random random(12);
+  size_t sizes[][2] = {{2040, 2040}, {2056, 2048},  {4000, 2500}, {5000, 20000},
+                       {9000, 9001}, {30000, 17000}, {20000, 20000}};
+  for (auto [n, m] : sizes) {
+    std::string a = longdigits(random, n);
+    std::string b = longdigits(random, m);
+    std::string product = stored(magmul(loaded(a), loaded(b)));
+    for (uint64_t prime : {1000000007u, 998244353u, 2147483647u, 3u, 11u}) {
+      ASSERT_EQ(residue(product, prime), residue(a, prime) * residue(b, prime) % prime) << n;
+    }
+  }
+}
+
+TEST(Mag, LongQuotientsUndoProducts) {
+  Random random(13);
+  for (size_t n : {2000u, 5000u, 9000u}) {
+    Str a = loaded(longdigits(random, n));
+    Str b = loaded(longdigits(random, 4000));
+    Str rest = loaded(longdigits(random, 3000));
+    Str sum = magadd(magmul(a, b), rest);
+    EXPECT_EQ(stored(magdiv(true, sum, b)), stored(a));
+    EXPECT_EQ(stored(magmod(sum, b)), stored(rest));
+  }
+}
+
 // (10^n - 1)^2 fills every column sum to the brim; it is 99..9800..01.
 TEST(Mag, TheLongestCarriesSettle) {
   size_t n = 30000;
