@@ -19,7 +19,7 @@ runpeer() {
     bc)     BC_LINE_LENGTH=0 bc -q "$name.bc" </dev/null ;;
     python) "$python" "$name.py" ;;
     lua)    lua5.4 "$name.lua" ;;
-    hugs)   runhugs "$name.hs" ;;
+    hugs)   runhugs -98 "$name.hs" ;;
   esac
 }
 
