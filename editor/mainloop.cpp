@@ -16,11 +16,13 @@
 #include "editor/state.h"
 #include "editor/wholefile.h"
 #include "editor/window.h"
+#include "host/start.h"
 
 namespace tarn {
 
 static void findsurroundings() {
   starttime = time(nullptr);
+  hoststart();
   home = findhome();
   cwdpath = findcwd();
   srand(0);

@@ -6,6 +6,10 @@
 
 namespace tarn {
 
+// Makes bytes in files and streams stay as they are, and a wrong argument to the C library an error
+// result. Once, before the first file is opened.
+void systemstart();
+
 // Writes all n bytes to the descriptor, past all buffering. A short write, an interruption or a
 // descriptor that is not ready is gone on from; false only on a real error.
 bool systemwrite(int fd, const void* bytes, int64_t n);

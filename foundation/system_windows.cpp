@@ -1,10 +1,20 @@
 // The low-level calls on Windows.
 #include <direct.h>
+#include <fcntl.h>
 #include <io.h>
+#include <stdlib.h>
 
 #include "foundation/system.h"
 
 namespace tarn {
+
+static void ignorewrong(const wchar_t*, const wchar_t*, const wchar_t*, unsigned, uintptr_t) {}
+
+void systemstart() {
+  _fmode = _O_BINARY;
+  for (int fd = 0; fd <= 2; fd++) _setmode(fd, _O_BINARY);
+  _set_invalid_parameter_handler(ignorewrong);
+}
 
 bool systemwrite(int fd, const void* bytes, int64_t n) {
   constexpr int64_t most = 1 << 30;  // the count is an unsigned int there

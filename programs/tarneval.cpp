@@ -12,7 +12,7 @@
 #include "frontend/driver.h"
 #include "graph/cell.h"
 #include "graph/reduce.h"
-#include "host/builtintable.h"
+#include "host/start.h"
 
 namespace tarn {
 
@@ -68,7 +68,7 @@ void putstats(double seconds) {
 }
 
 int work(const Command& command) {
-  hostinstall();
+  hoststart();
   Str text = readall(command.file);
   auto start = std::chrono::steady_clock::now();
   Evaluation evaluation = evaluate(text, 0);

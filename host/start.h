@@ -1,0 +1,10 @@
+// What a program that evaluates does first.
+#pragma once
+
+namespace tarn {
+
+// Prepares the C library and the sockets, and hands the builtins to the machine. Where the socket
+// library does not start, the process ends with its words and the status -1.
+void hoststart();
+
+}  // namespace tarn
