@@ -12,25 +12,25 @@ namespace {
 struct Paths : testing::Test {
   void SetUp() override {
     home = "/home/me/";
-    cwdpath = "/work/dir/";
+    cwdpath = "/desk/dir/";
   }
 };
 
 TEST_F(Paths, NormaliseMakesPathsAbsolute) {
-  EXPECT_EQ(normalise("a"), "/work/dir/a");
-  EXPECT_EQ(normalise("a/b.txt"), "/work/dir/a/b.txt");
+  EXPECT_EQ(normalise("a"), "/desk/dir/a");
+  EXPECT_EQ(normalise("a/b.txt"), "/desk/dir/a/b.txt");
   EXPECT_EQ(normalise("/a"), "/a");
   EXPECT_EQ(normalise("~/x"), "/home/me/x");
-  EXPECT_EQ(normalise("~"), "/work/dir/~");
-  EXPECT_EQ(normalise("~x/y"), "/work/dir/~x/y");
-  EXPECT_EQ(normalise("a/~/b"), "/work/dir/a/~/b");
+  EXPECT_EQ(normalise("~"), "/desk/dir/~");
+  EXPECT_EQ(normalise("~x/y"), "/desk/dir/~x/y");
+  EXPECT_EQ(normalise("a/~/b"), "/desk/dir/a/~/b");
   home = "/";
   EXPECT_EQ(normalise("~/x"), "/x");
 }
 
 TEST_F(Paths, NormaliseWorksOutDots) {
-  EXPECT_EQ(normalise("./a"), "/work/dir/a");
-  EXPECT_EQ(normalise("../a"), "/work/a");
+  EXPECT_EQ(normalise("./a"), "/desk/dir/a");
+  EXPECT_EQ(normalise("../a"), "/desk/a");
   EXPECT_EQ(normalise("../../a"), "/a");
   EXPECT_EQ(normalise("/a/../b"), "/b");
   EXPECT_EQ(normalise("/a/./b/."), "/a/b");
@@ -40,8 +40,8 @@ TEST_F(Paths, NormaliseWorksOutDots) {
 }
 
 TEST_F(Paths, NormaliseDropsEmptySegments) {
-  EXPECT_EQ(normalise("a//b"), "/work/dir/a/b");
-  EXPECT_EQ(normalise(".//a"), "/work/dir/a");
+  EXPECT_EQ(normalise("a//b"), "/desk/dir/a/b");
+  EXPECT_EQ(normalise(".//a"), "/desk/dir/a");
   EXPECT_EQ(normalise("///a"), "/a");
   EXPECT_EQ(normalise("/a//../b"), "/b");
 }
@@ -61,12 +61,12 @@ TEST_F(Paths, NormaliseFailsOnNoName) {
 }
 
 TEST_F(Paths, NormalisedirEndsInASlash) {
-  EXPECT_EQ(normalisedir("a"), "/work/dir/a/");
-  EXPECT_EQ(normalisedir("a/"), "/work/dir/a/");
+  EXPECT_EQ(normalisedir("a"), "/desk/dir/a/");
+  EXPECT_EQ(normalisedir("a/"), "/desk/dir/a/");
   EXPECT_EQ(normalisedir("/a/../b/"), "/b/");
   EXPECT_EQ(normalisedir("~/"), "/home/me/");
-  EXPECT_EQ(normalisedir("."), "/work/dir/");
-  EXPECT_EQ(normalisedir(".."), "/work/");
+  EXPECT_EQ(normalisedir("."), "/desk/dir/");
+  EXPECT_EQ(normalisedir(".."), "/desk/");
 }
 
 TEST_F(Paths, NormalisedirKnowsTheRoot) {

@@ -1,3 +1,4 @@
+// The rules of the machine, one function each, in the order in which they are tried.
 #include "tests/graph/lettermachine.h"
 
 #include <vector>

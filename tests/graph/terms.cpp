@@ -1,3 +1,4 @@
+// Reading terms as the tests write them.
 #include "tests/graph/terms.h"
 
 #include <cstdlib>

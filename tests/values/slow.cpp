@@ -1,3 +1,4 @@
+// Arithmetic on paper.
 #include "tests/values/slow.h"
 
 #include <algorithm>
