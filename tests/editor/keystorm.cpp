@@ -213,7 +213,7 @@ int main(int argc, char** argv) {
     char top[] = "/tmp/tarnXXXXXX";
     if (mkdtemp(top) == nullptr) return 2;
     Storm storm = {std::mt19937_64(seed), std::string(top) + "/a/b/c/d/e/f/g/h", "", ""};
-    runbout(storm, argv[1], static_cast<int>(std::min<long>(keys, boutkeys)));
+    runbout(storm, std::filesystem::absolute(argv[1]), static_cast<int>(std::min<long>(keys, boutkeys)));
     std::error_code error;
     std::filesystem::remove_all(top, error);
     if (storm.fault.empty()) continue;

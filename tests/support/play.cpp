@@ -109,6 +109,13 @@ void settle(Play& p) {
   if (p.session && !p.session->settle()) p.fault = "the program does not come to rest";
 }
 
+void checkoutput(Play& p) {
+  const std::string& log = p.session->terminal.log;
+  readstrictly(p.strict, log.data() + p.checked, log.size() - p.checked);
+  p.checked = log.size();
+  if (!p.strict.fault.empty()) p.fault = "not for a terminal: " + p.strict.fault;
+}
+
 void beginstep(Play& p) {
   p.sentbefore = p.session->terminal.log.size();
   p.bellsbefore = p.session->terminal.bells;
@@ -164,6 +171,7 @@ void dopaste(Play& p, std::string rest) {
 void doresize(Play& p, std::string rest) {
   int width = atoi(nextword(rest).c_str());
   int height = atoi(rest.c_str());
+  checkoutput(p);  // what came so far was for the old size
   p.session->resize(width, height);
   settle(p);
   p.strict.width = width;
@@ -219,15 +227,25 @@ void wantsent(Play& p, std::string rest) {
   if (readtext(rest, p.fault) != sent) p.fault = "sent was " + inquotes(sent);
 }
 
-// Row 0 as every mode but the lists shows it: the word, the ink cell, and the end of the field.
-void wantstatus(Play& p, std::string rest) {
+// Row 0 as every mode but the lists shows it: the word, the ink cell, and the field.
+void wantfield(Play& p, const std::string& word, std::string field) {
   RowWanted row;
-  row.text = nextword(rest);
+  replaceall(field, " ", "_");
+  row.text = word + " " + field;
+  p.fault = rowfault(p.session->terminal, 0, row);
+}
+
+void wantstatus(Play& p, std::string rest) {
+  std::string word = nextword(rest);
   size_t room = static_cast<size_t>(p.session->terminal.width) - 6;
   if (rest.size() > room) rest.erase(0, rest.size() - room);
-  replaceall(rest, " ", "_");
-  row.text += " " + rest;
-  p.fault = rowfault(p.session->terminal, 0, row);
+  wantfield(p, word, rest);
+}
+
+void wantstatushead(Play& p, std::string rest) {
+  std::string word = nextword(rest);
+  size_t room = static_cast<size_t>(p.session->terminal.width) - 5;
+  wantfield(p, word, rest.substr(0, room));
 }
 
 void wantdisk(Play& p, std::string rest) {
@@ -312,6 +330,7 @@ const Word words[] = {
     {"bells", demand, wantbells},
     {"sent", demand, wantsent},
     {"status", demand, wantstatus},
+    {"statushead", demand, wantstatushead},
     {"row", demand, nullptr},
     {"text", demand, nullptr},
     {"screen", demand, nullptr},
@@ -331,15 +350,9 @@ const Word* findword(const std::string& name) {
 
 // ---- What holds at the end of every step, told or not
 
-void checkoutput(Play& p) {
-  const std::string& log = p.session->terminal.log;
-  readstrictly(p.strict, log.data() + p.checked, log.size() - p.checked);
-  p.checked = log.size();
-  if (!p.strict.fault.empty()) p.fault = "not for a terminal: " + p.strict.fault;
-}
-
 // Once more from nothing: no cell may differ, nor the cursor.
 void checkrepaint(Play& p) {
+  if (p.session->terminal.width < 7 || p.session->terminal.height < 2) return;  // no such resize
   std::string before = picture(p.session->terminal, true);
   p.session->signal(SIGWINCH);
   settle(p);
