@@ -49,16 +49,28 @@ Shared enter(CellRef term, uint64_t hash) {
   return {std::move(term), hash};
 }
 
-Shared share(Cell* term) {
-  auto known = sharetable().hashes.find(term);
-  if (known != sharetable().hashes.end()) return {cellcopy(term), known->second};
-  if (cellisleaf(term)) return enter(cellcopy(term), hashleaf(term));
-  Shared left = share(leftlink(term));
-  Shared right = share(rightlink(term));
+// What became of the cells that several others hold, so that a graph is not walked as a tree.
+using Seen = std::unordered_map<const Cell*, Shared>;
+
+Shared share(Cell* term, Seen& seen);
+
+Shared sharepair(Cell* term, Seen& seen) {
+  Shared left = share(leftlink(term), seen);
+  Shared right = share(rightlink(term), seen);
   uint64_t hash = hashpair(left.hash, right.hash);
   bool same = left.term == leftlink(term) && right.term == rightlink(term);
   if (same) return enter(cellcopy(term), hash);
   return enter(cellpairtake(std::move(left.term), std::move(right.term)), hash);
+}
+
+Shared share(Cell* term, Seen& seen) {
+  auto known = sharetable().hashes.find(term);
+  if (known != sharetable().hashes.end()) return {cellcopy(term), known->second};
+  if (cellisleaf(term)) return enter(cellcopy(term), hashleaf(term));
+  if (cellrefs(term) == 1) return sharepair(term, seen);
+  auto before = seen.find(term);
+  if (before != seen.end()) return before->second;
+  return seen.emplace(term, sharepair(term, seen)).first->second;
 }
 
 // Takes the cell out of the table; false if it was not in it.
@@ -75,7 +87,10 @@ bool leave(const Cell* term) {
 
 }  // namespace
 
-CellRef sharepass(Cell* term) { return share(term).term; }
+CellRef sharepass(Cell* term) {
+  Seen seen;
+  return share(term, seen).term;
+}
 
 void sharetrim() {
   ShareTable& table = sharetable();

@@ -119,6 +119,9 @@ static CellRef& dofour(CellRef& out, CellRef f) {
   return answer(out, leafcstr("4"));
 }
 
+static CellRef& dofail(CellRef& out, CellRef) { return answer(out, leafcstr("Z")); }
+
+// The last ones are there because the operators name them.
 static const BuiltinRow rows[] = {
     {"alone", 1, doalone},
     {"dash",  2, dodash},
@@ -129,6 +132,14 @@ static const BuiltinRow rows[] = {
     {"same",  2, dosame},
     {"tell",  1, dotell},
     {"todo",  3, dotodo},
+    {"buck",  1, dofail},
+    {"cent",  2, dofail},
+    {"diff",  2, dofail},
+    {"gteq",  2, dofail},
+    {"mult",  2, dofail},
+    {"over",  2, dofail},
+    {"powa",  2, dofail},
+    {"wave",  1, dofail},
 };
 
 // --- Atoms of the tests: each answers its name applied to the argument ---------------------------
