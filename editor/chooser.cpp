@@ -41,8 +41,8 @@ Str chooserpath(const Str& text) {
 
 static bool saving = false;  // which of the two prompts it is; Save lists directories only
 
-// Lists a directory, which ends in "/", and picks its first entry; the bell if it cannot be read. On
-// purpose "../" comes before "./": all entries are sorted alike.
+// Lists a directory, which ends in "/", and picks its first entry; the bell if it cannot be read.
+// On purpose "../" comes before "./": all entries are sorted alike.
 static void listdirectory(const Str& path) {
   chooserdir = path;
   selected = 0;

@@ -6,8 +6,8 @@
 namespace tarn {
 
 // The absolute path that a typed text stands for, with "/" at its end where it can only be a
-// directory: where it ends in "/", "/." or "/..", or is "." or "..". Empty for an empty text and for
-// a path above the root.
+// directory: where it ends in "/", "/." or "/..", or is "." or "..". Empty for an empty text and
+// for a path above the root.
 Str chooserpath(const Str& text);
 
 }  // namespace tarn

@@ -19,10 +19,18 @@
 #include "foundation/place.h"
 #include "frontend/brackets.h"
 #include "frontend/driver.h"
+#include "host/builtintable.h"
 
 namespace tarn {
 
 using namespace std::literals;
+
+// Sets the language up, the first time that it is needed: most sessions never do.
+static void needlanguage() {
+  static bool ready = false;
+  if (!ready) hostinstall();
+  ready = true;
+}
 
 static void write(const std::string& bytes) {
   consolewrite(bytes.data(), static_cast<int64_t>(bytes.size()));
@@ -37,8 +45,8 @@ static bool toldplace(const Str& place, int64_t limit, int64_t& offset) {
   return offset >= 0 && offset <= limit;
 }
 
-// Covers the whole screen with bright red "!", so that the next paint draws every cell anew, whatever
-// the program has printed.
+// Covers the whole screen with bright red "!", so that the next paint draws every cell anew,
+// whatever the program has printed.
 static void flash() {
   check(fflush(stdout) == 0);  // what it has printed must not come later
   int64_t cells = width * height;
@@ -60,6 +68,7 @@ static void entereval() {
   int64_t from = mark < 0 ? 0 : std::min<int64_t>(mark, s.point);
   int64_t to = mark < 0 ? size(s) : std::max<int64_t>(mark, s.point);
   mark = -1;
+  needlanguage();
   showresult(s, evaluate(stretch(s, from, to), from));
   flash();
   repaint = painteval;
@@ -76,6 +85,7 @@ void tarndomv() {
   Report report;
   int64_t place = 0;
   if (bracketcheck(flatten(s), 0, report, place)) {
+    needlanguage();
     opsort();
     return leave();
   }

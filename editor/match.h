@@ -28,8 +28,8 @@ struct Probe {
   uint8_t values[3];
 };
 
-// A pattern made ready. Bit n of the state of a match says that the last n bytes read match the first
-// n of the pattern; a byte takes it to `masks[byte] & (state * 2 + 1)`, from 1 at the start.
+// A pattern made ready. Bit n of the state of a match says that the last n bytes read match the
+// first n of the pattern; a byte takes it to `masks[byte] & (state * 2 + 1)`, from 1 at the start.
 struct Pattern {
   int64_t length;       // 1 to patternlimit
   uint64_t masks[256];  // bit i + 1: the byte matches at position i; bit 0 always
@@ -46,8 +46,9 @@ inline uint64_t patternstep(const Pattern& p, uint64_t state, uint8_t byte) {
 inline bool patternhit(const Pattern& p, uint64_t state) { return (state >> p.length & 1) != 0; }
 
 // The end of the first match that ends behind `from`, going on from the start of the text up to
-// `from`; or backward the other way round. -1 if there is none. A match that ends at `from` itself does not
-// count, and the end of the text counts as its start does: from 0 or from the size, neither is found.
+// `from`; or backward the other way round. -1 if there is none. A match that ends at `from` itself
+// does not count, and the end of the text counts as its start does: from 0 or from the size,
+// neither is found.
 int64_t matchfrom(const sheet& s, const Pattern& p, int64_t from, bool forward);
 
 // Moves the point to the next match from it, just behind its last byte, and shows it; false, and

@@ -39,7 +39,8 @@ bool kinkparse(const uint8_t* digits, uint64_t& palette) {
       sound = false;
       continue;
     }
-    // On purpose: the places repeat after eight digits, and a product is signed before it is widened.
+    // On purpose: the places repeat after eight digits, and a product is signed before it is
+    // widened.
     uint32_t product = static_cast<uint32_t>(value) * (0x10u << ((60 - 4 * i) % 32));
     palette += static_cast<uint64_t>(static_cast<int64_t>(static_cast<int32_t>(product)));
   }

@@ -1,4 +1,5 @@
-// The keys that all prompts share, and the walk from `line` to what a prompt does with its last key.
+// The keys that all prompts share, and the walk from `line` to what a prompt does with its last
+// key.
 #include "editor/prompts.h"
 
 #include "editor/commands.h"

@@ -25,9 +25,9 @@ struct Prompt {
   void (*other)();                  // any other key: `chirp` to stay, `replay` to leave with it
 };
 
-// Answers `line` for a prompt: the prompt's own keys, then the keys that all share, then typing. The
-// shared ones are C-g, which leaves, C-h and C-t, which scroll the status text, ESC k and ESC u for
-// the palette, ESC a and ESC z, which fill `clip`.
+// Answers `line` for a prompt: the prompt's own keys, then the keys that all share, then typing.
+// The shared ones are C-g, which leaves, C-h and C-t, which scroll the status text, ESC k and ESC u
+// for the palette, ESC a and ESC z, which fill `clip`.
 void runprompt(const Prompt& prompt);
 
 // Drops the last byte of the field; the bell if it is empty.

@@ -1,5 +1,5 @@
-// The quips of Escape-q: ten lines to smile at, a row of dots, and snippets of the language to copy,
-// paste and evaluate, true statements and false ones alike.
+// The quips of Escape-q: ten lines to smile at, a row of dots, and snippets of the language to
+// copy, paste and evaluate, true statements and false ones alike.
 #include "editor/quips.h"
 
 #include <cstdlib>
@@ -21,7 +21,7 @@ const char* const quips[] = {
     "Save early, save often, and save the receipt.",
     "Roses are red,\nspaces are green,\nthis line is longer\nthan any you've seen.",
     "The shortest distance between two points is a search that wraps around the end.",
-    "I would tell you the joke about recursion, but first I must tell you the joke about recursion.",
+    "To understand the joke about recursion, first hear the joke about recursion.",
     "Every program has at least one more byte than it needs.",
     "Lazy evaluation: why do today what nobody may ever ask for?",
     "..........................................................................",

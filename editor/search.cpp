@@ -1,5 +1,5 @@
-// Find and Mark: the prompts that search with every key. Find goes to what is typed and lights every
-// match; Mark selects from where it began to where the search has come.
+// Find and Mark: the prompts that search with every key. Find goes to what is typed and lights
+// every match; Mark selects from where it began to where the search has come.
 #include <algorithm>
 #include <vector>
 
@@ -70,8 +70,8 @@ static void movepoint(int64_t to) {
   showpoint(s);
 }
 
-// Goes to the next match, or the one before. False, with the bell, if there is none or if the search
-// has come round.
+// Goes to the next match, or the one before. False, with the bell, if there is none or if the
+// search has come round.
 static bool searchon(bool forward) {
   sheet& s = currentsheet();
   int64_t before = s.point;
