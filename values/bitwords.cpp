@@ -142,17 +142,22 @@ BitWords wordsmul(const BitWords& a, const BitWords& b) {
   return product;
 }
 
+static void halve(BitWords& a) {
+  for (size_t i = 0; i + 1 < a.size(); i++) a[i] = a[i] >> 1 | a[i + 1] << 63;
+  a.back() >>= 1;
+}
+
 // One bit of the quotient at a time: b is moved up as far as a reaches and comes down bit by bit.
 BitWords wordsmod(BitWords a, const BitWords& b) {
   int64_t ahead = wordsbitlen(a) - wordsbitlen(b);
   check(wordsbitlen(b) != 0);
   if (ahead < 0) return a;
   BitWords multiple = wordsshift(b, ahead);
-  for (;; ahead--) {
+  for (; ahead >= 0; ahead--) {
     if (wordscompare(a, multiple) >= 0) takefrom(a.data(), multiple.data(), wordcount(multiple));
-    if (ahead == 0) return a;
-    multiple = wordsshift(multiple, -1);
+    halve(multiple);
   }
+  return a;
 }
 
 static BitWords shiftup(const BitWords& a, int64_t n) {
