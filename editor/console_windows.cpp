@@ -32,6 +32,11 @@ HANDLE screen() {
   return direct;
 }
 
+bool matters(const INPUT_RECORD& record) {
+  return record.EventType == WINDOW_BUFFER_SIZE_EVENT ||
+         (record.EventType == KEY_EVENT && record.Event.KeyEvent.bKeyDown);
+}
+
 void setkey(ConsoleEvent& event, const KEY_EVENT_RECORD& record) {
   if (!record.bKeyDown) return;
   event.key = translate({record.wVirtualKeyCode, record.dwControlKeyState});
@@ -87,10 +92,18 @@ void consolenext(ConsoleEvent& event) {
   }
 }
 
+// Only what will be an event counts: a key let go, or the window's focus, must not put off a paint.
 bool consolewaiting() {
-  if (next < count) return true;
+  for (DWORD i = next; i < count; i++) {
+    if (matters(records[i])) return true;
+  }
+  INPUT_RECORD ahead[batch];
   DWORD pending = 0;
-  return GetNumberOfConsoleInputEvents(input(), &pending) && pending > 0;
+  if (!PeekConsoleInputW(input(), ahead, batch, &pending)) return false;
+  for (DWORD i = 0; i < pending; i++) {
+    if (matters(ahead[i])) return true;
+  }
+  return false;
 }
 
 void consolewrite(const void* bytes, int64_t n) { check(systemwrite(1, bytes, n)); }
