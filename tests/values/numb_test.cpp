@@ -162,6 +162,35 @@ TEST(Numb, ArithmeticAgreesWithExactFractions) {
   }
 }
 
+// --- Long numbs: the decimal route through integers is another way to the same answers ------------
+
+CellRef randomhint(Random& random) {
+  std::string digits = randomdigits(random, 400);
+  return leaf(digits != "0" && random() % 2 != 0 ? "0" + digits : digits);
+}
+
+// The integer moved down by so many binary places.
+CellRef scaled(Cell* hint, const char* places) {
+  return numbmul(hinttonumb(hint), numbpow(leaf("004"), leaf("0" + std::string(places))));
+}
+
+TEST(Numb, LongArithmeticAgreesWithIntegers) {
+  Random random(14);
+  const char* places[] = {"1", "7", "63", "64", "500", "2000"};
+  for (int i = 0; i < 300; i++) {
+    const char* by = places[i % 6];
+    CellRef x = randomhint(random);
+    CellRef y = randomhint(random);
+    CellRef a = scaled(x, by);
+    CellRef b = scaled(y, by);
+    ASSERT_EQ(textof(numbadd(a, b)), textof(scaled(hintadd(x, y), by)));
+    ASSERT_EQ(textof(numbsub(a, b)), textof(scaled(hintsub(x, y), by)));
+    ASSERT_EQ(textof(numbmul(a, hinttonumb(y))), textof(scaled(hintmul(x, y), by)));
+    if (hintiszero(y)) continue;
+    ASSERT_EQ(textof(numbmod(a, b)), textof(scaled(hintmod(x, y), by)));
+  }
+}
+
 TEST(Numb, PowersOfTwoAreExact) {
   EXPECT_EQ(work(numbpow, "004", "0"), "001");
   EXPECT_EQ(work(numbpow, "004", "1"), "004");
