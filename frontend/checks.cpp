@@ -1,8 +1,6 @@
 // The eleven steps from parsed definitions to runnable ones, a function each.
 #include "frontend/checks.h"
 
-#include <map>
-#include <set>
 #include <vector>
 
 #include "foundation/chars.h"
@@ -15,7 +13,8 @@
 
 namespace tarn {
 
-Str displayname(const Str& key) { return key.empty() ? Str("TOP") : key; }
+// How messages call a definition.
+static Str displayname(const Str& key) { return key.empty() ? Str("TOP") : key; }
 
 // The tail of a message about a definition.
 static Str whose(const char* link, const Str& key) {
@@ -83,9 +82,6 @@ Report checkunbound(const Str& key, Cell* term) {
 
 // --- References between definitions --------------------------------------------------------------
 
-// The names that each definition refers to, as name lists.
-using References = std::map<Str, CellRef>;
-
 static References references() {
   References found;
   for (const auto& [key, definition] : globaldefs()) found[key] = freenames(definition->term);
@@ -94,7 +90,7 @@ static References references() {
 
 // Walks from the main expression, always on to the smallest name waiting. Of several definitions that
 // refer to a name the latest is told.
-static Report checkreferences(const References& uses) {
+Report checkreferences(const References& uses, const char* what) {
   std::map<Str, Str> waiting = {{"", "nowhere"}};  // to the name that referred
   std::set<Str> done;
   while (!waiting.empty()) {
@@ -102,8 +98,10 @@ static Report checkreferences(const References& uses) {
     waiting.erase(waiting.begin());
     done.insert(name);
     auto found = uses.find(name);
+    if (found == uses.end() && defterm(name) != nullptr) continue;
     if (found == uses.end()) {
-      return fault("alive", "Alive function " + referrer + " references undefined " + name + ".",
+      return fault("alive",
+                   "Alive function " + referrer + " references undefined " + what + name + ".",
                    shortname(referrer), shortname(name));
     }
     for (Cell* list = found->second; cellispair(list); list = rightlink(list)) {
@@ -114,9 +112,8 @@ static Report checkreferences(const References& uses) {
   return {};
 }
 
-// The definitions that cannot run: those that use an undefined name, and all that use them. The
-// entry of a builtin runs always, since its body is never entered.
-static std::set<Str> deaddefinitions(const References& uses) {
+// The entry of a builtin runs always, since its body is never entered.
+std::set<Str> deaddefinitions(const References& uses) {
   std::multimap<Str, Str> users;
   std::vector<Str> found;
   for (const auto& [key, names] : uses) {
@@ -124,7 +121,7 @@ static std::set<Str> deaddefinitions(const References& uses) {
     for (Cell* list = names; cellispair(list); list = rightlink(list)) {
       Str used = celltext(leftlink(list));
       users.emplace(used, key);
-      if (uses.count(used) == 0) found.push_back(key);
+      if (uses.count(used) == 0 && defterm(used) == nullptr) found.push_back(key);
     }
   }
   std::set<Str> dead;
@@ -183,7 +180,7 @@ static Report checkkeys() { return firstfault(checkfunky); }
 
 static Report checknames() {
   References uses = references();
-  Report report = checkreferences(uses);
+  Report report = checkreferences(uses, "");
   if (report.sound()) dropdead(uses);
   return report;
 }

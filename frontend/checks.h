@@ -3,6 +3,9 @@
 // passes that bring the definitions into the form of the machine run between them.
 #pragma once
 
+#include <map>
+#include <set>
+
 #include "frontend/report.h"
 #include "graph/cell.h"
 
@@ -17,12 +20,20 @@ void checkprogram(Report& report);
 // definition, sound if there is no fault; the name "" is the main expression.
 Report checkfunky(const Str& key, Cell* term);
 Report checkarity(const Str& key, Cell* term);
-Report checkunbound(const Str& key, Cell* term);
+Report checkunbound(const Str& key, Cell* term);  // annotates
 
 // Gives all long local names of a definition a letter, if there are letters enough.
 Report namelocals(const Str& key, CellRef& term);
 
-// How messages call a definition: "TOP" for the main expression.
-Str displayname(const Str& key);
+// The names that each definition of a program refers to, as name lists; what it does not hold may
+// be among the global definitions.
+using References = std::map<Str, CellRef>;
+
+// Whether all names that can be reached from the main expression are defined. `what` stands before
+// the undefined name in the message, with a blank behind it if it is not empty.
+Report checkreferences(const References& uses, const char* what);
+
+// The definitions that cannot run: those that use an undefined name, and all that use them.
+std::set<Str> deaddefinitions(const References& uses);
 
 }  // namespace tarn
