@@ -114,6 +114,24 @@ CellRef craynew(int64_t slots) {
   return CellRef::adopt(c);
 }
 
+// The slots that a grown block has room for stand in its hidden word; 0 for any other block.
+static int64_t crayroom(const Cell* c) { return static_cast<int64_t>(leafhint(c) >> 3); }
+
+static Cell* crayroomier(Cell* c, int64_t room) {
+  Cell* grown = storeregrown(c, 8 * room + 1);
+  leafhint(grown) = (leafhint(grown) & ~CELLHINT) | static_cast<uint64_t>(room) << 3;
+  return grown;
+}
+
+Cell* craygrown(Cell* c) {
+  int64_t n = crayslots(c);
+  check(cellrefs(c) == 1);
+  if (n >= crayroom(c)) c = crayroomier(c, 2 * n + 8);
+  setfield(c, static_cast<uint64_t>(n) + 1);
+  memset(leafbytes(c) + 1 + 8 * n, 0, 8 + 1);  // and the NUL
+  return c;
+}
+
 Cell* crayslot(const Cell* c, int64_t i) {
   Cell* v = nullptr;
   memcpy(&v, leafbytes(c) + 1 + 8 * i, 8);  // the slots are not aligned

@@ -188,6 +188,10 @@ CellRef leafdigits(uint64_t n);                 // a digit leaf of n in decimal
 // them are there, but nothing reads or releases them. One beyond all memory fails in malloc.
 CellRef craynew(int64_t slots);
 inline int64_t crayslots(const Cell* c) { return static_cast<int64_t>(cellfield(c)); }
+// Takes the only reference to an array of less than 0x3ffffff slots and gives it back with one more,
+// empty, slot at the end, maybe at another place. A block that grows gets spare room, so that many
+// appends cost little each.
+Cell* craygrown(Cell* c);
 Cell* crayslot(const Cell* c, int64_t i);     // lends; null where empty; i is not tested
 void crayfill(Cell* c, int64_t i, CellRef v); // takes v, which may be null; drops what was there
 

@@ -2,6 +2,7 @@
 #include "graph/cellstore.h"
 
 #include <cstdlib>
+#include <cstring>
 
 namespace tarn {
 
@@ -58,6 +59,17 @@ Cell* storeleaf(int64_t n) {
   uint64_t* block = static_cast<uint64_t*>(malloc(leafblock(n)));
   block[0] = 0;
   return reinterpret_cast<Cell*>(block + 1);
+}
+
+Cell* storeregrown(Cell* c, int64_t n) {
+  if ((leafhint(c) & CELLSHORT) == 0) {
+    uint64_t* block = static_cast<uint64_t*>(realloc(c - 1, leafblock(n)));
+    return reinterpret_cast<Cell*>(block + 1);
+  }
+  Cell* grown = storeleaf(n);
+  memcpy(grown, c, sizeof(Cell) + CELLSHORTTEXT + 1);
+  storefreeleaf(c);
+  return grown;
 }
 
 void storefreeleaf(Cell* c) {

@@ -54,6 +54,7 @@ inline void storefreepair(Cell* c) {
 }
 
 Cell* storeleaf(int64_t n);     // for n bytes of text and a NUL; nothing is set but the hidden word
+Cell* storeregrown(Cell* c, int64_t n);  // a leaf with room for n bytes instead; its text is kept
 void storefreeleaf(Cell* c);
 
 #ifndef __SANITIZE_ADDRESS__

@@ -139,7 +139,7 @@ CellRef& relwrite(CellRef& out, CellRef application) {
   if (!ispost(x) || !ishint(i) || !ishint(v)) return out = failure();
   int64_t at = inside(i, postlen(x), width);
   if (at < 0) return out = failure();
-  CellRef target = ownsfirst(application) ? cellcopy(x) : postmake(postbytes(x));
+  CellRef target = ownsfirst(application, 3) ? cellcopy(x) : postmake(postbytes(x));
   writenumber(payload(target) + at, width, v);
   return out = std::move(target);
 }

@@ -166,7 +166,7 @@ static CellRef corked(const Cork& cork) {
 
 CellRef& callcork(CellRef& out, CellRef application) {
   Cell* f = application;
-  return out = corked({thirdlastarg(f), secondlastarg(f), lastarg(f), ownsfirst(f)});
+  return out = corked({thirdlastarg(f), secondlastarg(f), lastarg(f), ownsfirst(f, 3)});
 }
 
 // --- trim ----------------------------------------------------------------------------------------

@@ -25,18 +25,18 @@ inline Cell* lastarg(const Cell* f) { return rightlink(f); }
 inline Cell* secondlastarg(const Cell* f) { return rightlink(leftlink(f)); }
 inline Cell* thirdlastarg(const Cell* f) { return rightlink(leftlink(leftlink(f))); }
 
+// Nothing but this application of n arguments holds its first one: neither is that shared, nor any
+// of the Pairs on the way to it. Such a value may be changed; nobody can look at the old one again.
+inline bool ownsfirst(const Cell* f, int n) {
+  for (; n > 1; n--, f = leftlink(f)) {
+    if (cellrefs(f) != 1) return false;
+  }
+  return cellrefs(f) == 1 && cellrefs(rightlink(f)) == 1;
+}
+
 template <CellRef (*work)()>
 CellRef& with0(CellRef& out, CellRef) {
   return out = work();
-}
-
-// Whether the application `f x i v` alone holds its x, and may change it in place: in ((f x) i) v, if
-// one of the three Pairs has another holder, so has x.
-inline bool ownsfirst(const Cell* f) {
-  const Cell* second = leftlink(f);
-  const Cell* first = leftlink(second);
-  return cellrefs(f) == 1 && cellrefs(second) == 1 && cellrefs(first) == 1 &&
-         cellrefs(rightlink(first)) == 1;
 }
 
 template <CellRef (*work)(Cell*)>

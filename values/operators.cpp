@@ -217,7 +217,21 @@ static CellRef append(Cell* x, Cell* y) {
   return cellfield(x) == CELLFIELDLIMIT - 1 ? failure() : crayappend(x, y);
 }
 
-CellRef valueover(Cell* x, Cell* y) {
+// `over x y` or `powa x y`, where x is an array that may grow in place.
+static bool appendshere(const Cell* f) {
+  const Cell* x = secondlastarg(f);
+  if (cellbyte(x) != '\n' || cellfield(x) >= CELLFIELDLIMIT - 1) return false;
+  return ownsfirst(f, 2) && cellkind(lastarg(f)) != 'e';
+}
+
+static CellRef appendedhere(Cell* f) {
+  Cell*& x = rightlink(leftlink(f));
+  x = craygrown(x);
+  craysethere(x, crayslots(x) - 1, lastarg(f));
+  return cellcopy(x);
+}
+
+static CellRef over(Cell* x, Cell* y) {
   constexpr Arm2 c = append, ii = hintdiv, rr = reals<divide>;
   static const Matrix matrix = {
       //  post  cray  void  hint  numb  real  zits   y
@@ -230,6 +244,10 @@ CellRef valueover(Cell* x, Cell* y) {
       {   none, none, none, none, none, none, none}, // zits
   };
   return choose(matrix, x, y);
+}
+
+CellRef& callover(CellRef& out, CellRef f) {
+  return out = appendshere(f) ? appendedhere(f) : over(secondlastarg(f), lastarg(f));
 }
 
 // --- % -------------------------------------------------------------------------------------------
@@ -263,7 +281,7 @@ static double power(double x, double y) { return std::pow(x, y); }
 // that an array of 0x3ffffff slots grows to one that counts 0.
 static CellRef appendlate(Cell* x, Cell* y) { return crayappend(x, y); }
 
-CellRef valuepowa(Cell* x, Cell* y) {
+static CellRef powa(Cell* x, Cell* y) {
   constexpr Arm2 c = appendlate, ii = hintpow, oi = numbpow, rr = reals<power>;
   static const Matrix matrix = {
       //  post  cray  void  hint  numb  real  zits   y
@@ -276,6 +294,10 @@ CellRef valuepowa(Cell* x, Cell* y) {
       {   none, none, none, none, none, none, none}, // zits
   };
   return choose(matrix, x, y);
+}
+
+CellRef& callpowa(CellRef& out, CellRef f) {
+  return out = appendshere(f) ? appendedhere(f) : powa(secondlastarg(f), lastarg(f));
 }
 
 // --- $ and ~ -------------------------------------------------------------------------------------

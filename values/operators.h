@@ -9,11 +9,14 @@ namespace tarn {
 CellRef valueplus(Cell* x, Cell* y);  // +
 CellRef valuedash(Cell* x, Cell* y);  // -
 CellRef valuemult(Cell* x, Cell* y);  // *
-CellRef valueover(Cell* x, Cell* y);  // /
 CellRef valuecent(Cell* x, Cell* y);  // %
-CellRef valuepowa(Cell* x, Cell* y);  // ^
 CellRef valuebuck(Cell* x);           // $
 CellRef valuewave(Cell* x);           // ~
 CellRef valuerank(Cell* x);           // the length
+
+// `/` and `^`, which append to arrays: one that nothing else holds grows where it is, so that a loop
+// of appends costs what its steps cost.
+CellRef& callover(CellRef& out, CellRef application);
+CellRef& callpowa(CellRef& out, CellRef application);
 
 }  // namespace tarn

@@ -1,0 +1,1 @@
+main = print (length (concat (replicate 100000 "[ab]")))
