@@ -10,10 +10,6 @@
 
 namespace tarn {
 
-static uint64_t codebits(int arity) {
-  return static_cast<uint64_t>(arity + CELLNOARITY) << CELLCODESHIFT;
-}
-
 // --- Leaves --------------------------------------------------------------------------------------
 
 // A name without a definition has to be a variable.
@@ -49,53 +45,18 @@ static uint64_t leafbits(Cell* c) {
 
 // --- Pairs ---------------------------------------------------------------------------------------
 
-static bool isdata(const Cell* c) { return (c->header & (CELLCODE | CELLFLAG)) == CELLFLAG; }
-
-// cellfree, of an annotated cell, in the place of field.
-static uint64_t freebits(const Cell* c) {
-  uint64_t bits = c->header & CELLFIELD;
-  if (bits == 0 || isdata(c)) return 0;
-  if (cellispair(c)) return bits;
-  uint8_t first = leafbytes(c)[0];
-  return isdigitbyte(first) || first == '\n' || first == '`' ? 0 : bits;
-}
-
-static uint64_t databits(const Cell* l, const Cell* r) {
+uint64_t datapairbits(const Cell* l, const Cell* r) {
   uint64_t sum = cellfield(l) + cellfield(r);
   if (cellfield(l) < 2 || cellfield(r) < 2 || sum >= CELLFIELDLIMIT) sum = 0;
   return CELLFLAG | sum << CELLFIELDSHIFT;
 }
 
-// The arity of an application of l, as a code.
-static uint64_t appliedcode(const Cell* l) {
-  uint64_t code = l->header & CELLCODE;
-  if (code == 0) return codebits(0);  // data
-  bool sticky = code == codebits(CELLMAXARITY) || code <= codebits(CELLMINARITY);
-  return sticky ? code : code - codebits(1 - CELLNOARITY);
-}
-
-// An application is clean only if its head is clean and its argument a clean value.
-static bool pends(const Cell* l, const Cell* r) {
-  if (!isdata(l) && (l->header & CELLFLAG) != 0) return true;
-  if (isdata(r)) return false;
-  return (r->header & CELLFLAG) != 0 || (r->header & CELLCODE) < codebits(1);
-}
-
-uint64_t pairbits(const Cell* l, const Cell* r) {
-  bool ldata = isdata(l);
-  if (ldata && isdata(r)) return databits(l, r);
-  uint64_t code = appliedcode(l);
-  uint64_t letters = freebits(l) | freebits(r);
-  if (cellispair(l)) {
-    const Cell* ll = leftlink(l);
-    uint8_t head = cellbyte(ll);
-    if (head == '\\') return code | (freebits(r) & ~freebits(l));
-    if (head == '{') letters = freebits(r);
-    if (cellispair(ll) && cellbyte(leftlink(ll)) == '{') {
-      letters = freebits(l) | (freebits(r) & ~freebits(rightlink(ll)));
-    }
-  }
-  return code | letters | (pends(l, r) ? CELLFLAG : 0);
+// `{ v e` does not see its v, and `{ v e body` binds it in the body.
+uint64_t binderletters(const Cell* l, const Cell* r, uint64_t letters) {
+  const Cell* ll = leftlink(l);
+  if (cellisleaf(ll)) return cellbyte(ll) == '{' ? knownfree(r) : letters;
+  if (cellbyte(leftlink(ll)) != '{') return letters;
+  return knownfree(l) | (knownfree(r) & ~knownfree(rightlink(ll)));
 }
 
 // --- Whole terms ---------------------------------------------------------------------------------
@@ -122,7 +83,7 @@ void cellannotatenew(Cell* c) {
 
 uint32_t cellfree(Cell* c) {
   cellannotate(c);
-  return static_cast<uint32_t>(freebits(c) >> CELLFIELDSHIFT);
+  return static_cast<uint32_t>(knownfree(c) >> CELLFIELDSHIFT);
 }
 
 }  // namespace tarn

@@ -35,10 +35,6 @@ std::map<Str, CellRef>& preludecopy() {
   return map;
 }
 
-bool islazybyte(uint8_t first) {
-  return first != 0 && strchr("&ABCDEFHIJKLNQRTUVXZ|", first) != nullptr;
-}
-
 // --- Records -------------------------------------------------------------------------------------
 
 static Definition* recordmade(const Str& name) {
@@ -48,7 +44,6 @@ static Definition* recordmade(const Str& name) {
   r->name = name;
   r->builtin = builtinfind(name);
   r->named = isname(name);
-  r->lazy = islazybyte(name.at(0));
   return r.get();
 }
 

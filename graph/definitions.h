@@ -6,8 +6,10 @@
 // definition. Only the functions here change a record or a map, since they keep both in step.
 #pragma once
 
+#include <array>
 #include <map>
 #include <set>
+#include <string_view>
 
 #include "foundation/str.h"
 #include "graph/builtins.h"
@@ -22,7 +24,6 @@ struct Definition {
   CellRef term;                 // null: not defined. Read it; defset and deferase change it.
   const BuiltinEntry* builtin;  // null: no builtin has that name
   bool named;                   // the name passes `isname`, so that its leaves have an arity
-  bool lazy;                    // as a head it leaves its arguments unevaluated
   bool alive;                   // evaluated anew at each use
   bool known;                   // whether what follows has been worked out from term
   uint8_t arity;                      // number of leading abstractions, at most 11
@@ -69,6 +70,11 @@ void definitionsrelink();  // the registry of builtins was replaced
 
 // The head of a term is lazy if its first text byte is one of & A B C D E F H I J K L N Q R T U V X
 // Z and |. All others want their arguments evaluated first.
-bool islazybyte(uint8_t first);
+inline constexpr std::array<bool, 256> lazybytes = [] {
+  std::array<bool, 256> table = {};
+  for (char c : std::string_view("&ABCDEFHIJKLNQRTUVXZ|")) table[static_cast<uint8_t>(c)] = true;
+  return table;
+}();
+constexpr bool islazybyte(uint8_t first) { return lazybytes[first]; }
 
 }  // namespace tarn

@@ -3,46 +3,52 @@
 #include "graph/substitute.h"
 
 #include "graph/annotate.h"
-#include "graph/cellstore.h"
 
 namespace tarn {
 
-static uint32_t letterbit(uint8_t letter) { return uint32_t{1} << (letter - 'a'); }
+static uint64_t letterbit(uint8_t letter) {
+  return uint64_t{1} << (letter - 'a' + CELLFIELDSHIFT);
+}
 
-static Cell* newpair(Cell* l, Cell* r) { return storepair(l, r, pairbits(l, r) | 1); }
+// Both want letters in the place of field, some of them free in body.
+static Cell* boundwithin(Cell* body, const Bindings& to, uint64_t letters);
 
-static Cell* bound(Cell* body, const Bindings& to, uint32_t letters);
+static Cell* bound(Cell* body, const Bindings& to, uint64_t letters) {
+  uint64_t here = knownfree(body) & letters;
+  return here == 0 ? cellhold(body) : boundwithin(body, to, here);
+}
 
 // `{ v e b`: e sees the letters, b all but v.
-static Cell* boundlocal(Cell* body, const Bindings& to, uint32_t letters) {
+static Cell* boundlocal(Cell* body, const Bindings& to, uint64_t letters) {
   Cell* key = leftlink(leftlink(body));
   Cell* b = bound(rightlink(body), to, letters & ~letterbit(cellbyte(rightlink(key))));
   Cell* e = bound(rightlink(leftlink(body)), to, letters);
   return newpair(newpair(cellhold(key), e), b);
 }
 
-// Gives body with the letters replaced. No renaming: arguments are closed.
-static Cell* bound(Cell* body, const Bindings& to, uint32_t letters) {
-  uint32_t here = cellfree(body) & letters;
-  if (here == 0) return cellhold(body);
+// No renaming: arguments are closed. The arity tells most shapes without a look at their links: an
+// abstraction has 1, a local binding 0.
+static Cell* boundwithin(Cell* body, const Bindings& to, uint64_t letters) {
   if (cellisleaf(body)) return cellhold(to[leafbytes(body)[0] - 'a']);
-  char form = cellform(body);
-  if (form == 'i') return boundlocal(body, to, here);
-  Cell* r = bound(rightlink(body), to, here);
-  Cell* l = form == 'u' ? cellhold(leftlink(body)) : bound(leftlink(body), to, here);
+  uint64_t code = codeof(body);
+  if (code == codebits(0) && cellform(body) == 'i') return boundlocal(body, to, letters);
+  Cell* r = bound(rightlink(body), to, letters);
+  bool abstraction = code == codebits(1) && cellform(body) == 'u';
+  Cell* l = abstraction ? cellhold(leftlink(body)) : bound(leftlink(body), to, letters);
   return newpair(l, r);
 }
 
-CellRef instantiate(Cell* body, const Bindings& to, uint32_t letters) {
-  return CellRef::adopt(bound(body, to, letters));
+Cell* instantiate(Cell* body, const Bindings& to, uint32_t letters) {
+  return bound(body, to, uint64_t{letters} << CELLFIELDSHIFT);
 }
 
 void substitute(CellRef& out, CellRef body, CellRef arg, uint8_t letter) {
   check(letter >= 'a' && letter <= 'z');
   cellannotate(arg);
+  cellannotate(body);
   Bindings to;
   to[letter - 'a'] = arg;
-  out = instantiate(body, to, letterbit(letter));
+  out = CellRef::adopt(instantiate(body, to, uint32_t{1} << (letter - 'a')));
 }
 
 }  // namespace tarn

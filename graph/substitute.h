@@ -13,8 +13,8 @@ void substitute(CellRef& out, CellRef body, CellRef arg, uint8_t letter);
 // For each letter its argument, lent, closed and annotated; set only for letters that are replaced.
 using Bindings = Cell* [26];
 
-// Replaces several letters at once, those of the set `letters`, bit 0 for 'a'. Lends body, gives the
-// result, annotated.
-CellRef instantiate(Cell* body, const Bindings& to, uint32_t letters);
+// Replaces several letters at once, those of the set `letters`, bit 0 for 'a'. Lends body, which is
+// annotated; gives a reference to the result, which is annotated too.
+Cell* instantiate(Cell* body, const Bindings& to, uint32_t letters);
 
 }  // namespace tarn

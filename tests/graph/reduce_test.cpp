@@ -197,11 +197,11 @@ TEST_F(ReduceDeathTest, MemoMarksAreForDefinedNamesThatAreNotLive) {
   CellRef result;
   CellRef mark = leafcstr(")nobody");
   CellRef one = leafcstr("1");
-  EXPECT_FAILS(reduceterm(result, cellpair(mark, one)), "graph/reduce.cpp");
+  EXPECT_FAILS(reduceterm(result, cellpair(mark, one)), "graph/prims.cpp");
   define("foo", "1");
   aliveadd("foo");
   mark = leafcstr(")foo");
-  EXPECT_FAILS(reduceterm(result, cellpair(mark, one)), "graph/reduce.cpp");
+  EXPECT_FAILS(reduceterm(result, cellpair(mark, one)), "graph/prims.cpp");
 }
 
 // --- Failures that are values --------------------------------------------------------------------
@@ -292,7 +292,7 @@ TEST_F(ReduceTest, NobodyButTheApplicationHoldsAPrivateArgument) {
 // --- Limits --------------------------------------------------------------------------------------
 
 TEST_F(ReduceDeathTest, OnlyClosedTermsAreReduced) {
-  EXPECT_FAILS(reduced("K a 1"), "graph/reduce.cpp");
+  EXPECT_FAILS(reduced("K a 1"), "graph/prims.cpp");
 }
 
 TEST_F(ReduceDeathTest, TheArityOfALeafHasToMatchTheDefinition) {
@@ -301,7 +301,7 @@ TEST_F(ReduceDeathTest, TheArityOfALeafHasToMatchTheDefinition) {
   cellannotate(leaf);
   define("foo", "\\ a (\\ b a)");
   CellRef result;
-  EXPECT_FAILS(reduceterm(result, cellpair(leaf, leafcstr("1"))), "graph/reduce.cpp");
+  EXPECT_FAILS(reduceterm(result, cellpair(leaf, leafcstr("1"))), "graph/prims.cpp");
 }
 
 TEST_F(ReduceTest, ADeepContinuationIsDroppedByAFailure) {
@@ -309,6 +309,16 @@ TEST_F(ReduceTest, ADeepContinuationIsDroppedByAFailure) {
   int64_t before = cellcounts().alive;
   EXPECT_EQ(reduced("count " + std::to_string(DEPTH)), "] [oh]");
   EXPECT_EQ(cellcounts().alive, before);
+}
+
+TEST_F(ReduceTest, WhatTakesElevenArgumentsIsNeverARedex) {
+  std::string text = "1";
+  for (int i = 0; i < 11; i++) text = "\\ a (" + text + ")";
+  define("eleven", text);
+  define("E", text);
+  EXPECT_EQ(reduced("eleven 1 2 3 4 5 6 7 8 9 10 11 (+ 1 11) 13"),
+            "eleven 1 2 3 4 5 6 7 8 9 10 11 12 13");
+  EXPECT_EQ(reduced("I E 1 2 3 4 5 6 7 8 9 10 11 12 13"), "E 1 2 3 4 5 6 7 8 9 10 11 12 13");
 }
 
 TEST_F(ReduceTest, DeepTermsAreEvaluated) {

@@ -66,7 +66,9 @@ TEST_F(SubstituteTest, SeveralLettersAtOnce) {
   Bindings to;
   to[0] = one;
   to[2] = two;
-  CellRef out = instantiate(term("{ c a (a b (\\ a (a c)) c)"), to, 5);
+  CellRef body = term("{ c a (a b (\\ a (a c)) c)");
+  cellannotate(body);
+  CellRef out = CellRef::adopt(instantiate(body, to, 5));
   EXPECT_EQ(shown(out), "{ c 1 (1 b (\\ a (a c)) c)");
 }
 
