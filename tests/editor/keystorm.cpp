@@ -5,7 +5,7 @@
 //
 // Left out are the keys that would reach beyond that directory or never come back: C-c; C-w and
 // "w", which could save over a file of the system; and ESC e, since a random program may run for
-// ever. Saving is done by deliberate strokes instead.
+// ever. Saving and evaluating are done by deliberate strokes instead.
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -108,6 +108,12 @@ std::string save(Storm& storm) {
   return strokes + "\x1bw" + pick(storm, "abcde") + "\r";
 }
 
+// A program that is known to end, in a buffer of its own, and a look along its result.
+std::string evaluate(Storm& storm) {
+  static const std::string programs[] = {"1+2", "f 3,f\\x\\x*x", "(1", "[abc]+[def]", "2^1000"};
+  return "\x07\x07\x1by\x1bn" + programs[below(storm, 5)] + "\x1b" "e\x14\x14\x08\x1b" "c";
+}
+
 // ---- A bout
 
 void makefiles(const Storm& storm) {
@@ -148,7 +154,7 @@ void throwkeys(Storm& storm, Bout& bout, const std::string& burst) {
 // Some keys in one piece, and sometimes a resize before they can all be answered.
 int oneburst(Storm& storm, Bout& bout) {
   int keys = 1 + below(storm, below(storm, 4) == 0 ? 100 : 12);
-  std::string burst;
+  std::string burst = below(storm, 4) == 0 ? "\x07" : "";  // prompts are sticky
   for (int i = 0; i < keys; i++) addkey(storm, burst);
   throwkeys(storm, bout, burst);
   if (below(storm, 15) != 0) return keys;
@@ -191,6 +197,7 @@ void runbout(Storm& storm, const std::string& program, int keys) {
   for (look(storm, bout); keys > 0 && storm.fault.empty(); look(storm, bout)) {
     keys -= oneburst(storm, bout);
     if (below(storm, 40) == 0) throwkeys(storm, bout, save(storm));
+    if (below(storm, 40) == 0) throwkeys(storm, bout, evaluate(storm));
   }
   if (storm.fault.empty()) paintanew(storm, bout);
   if (storm.fault.empty()) leave(storm, bout);
