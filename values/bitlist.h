@@ -1,9 +1,10 @@
-// Numbers as lists of truth values. Every digit leaf is also the list of its bits (see bits.h), and
-// a list `J b rest` whose first element is `K` or `H` is a number, an integer or a numb; its tail may
-// be a digit leaf, which stands for the rest of the list. All functions here lend their argument.
+// Numbers as lists of truth values. Every digit leaf is also the list of its bits (see bits.h),
+// and a list `J b rest` whose first element is `K` or `H` is a number, an integer or a numb; its
+// tail may be a digit leaf, which stands for the rest of the list. All functions here lend their
+// argument.
 //
 //   2    J K (J K (J H K))      K K H, behind them the sentinel: the bits 1011 are 11 = 4 * 2 + 3
-//   -1   J K 00                 the leaf 00 is the list of H, so this one is K H: 101 is 5 = 4 * 1 + 1
+//   -1   J K 00                 the leaf 00 is the list H, so K H: the bits 101 are 5 = 4 * 1 + 1
 #pragma once
 
 #include "foundation/str.h"
@@ -11,7 +12,8 @@
 
 namespace tarn {
 
-// A Pair of the shape `J b y`, where b is the leaf of that one byte. Looks at the first element only.
+// A Pair of the shape `J b y`, where b is the leaf of that one byte. Looks at the first element
+// only.
 bool islistof(const Cell* x, char byte);
 
 // Every element is K or H and the end is K or a digit leaf. True for all cells but lists.
@@ -28,8 +30,8 @@ CellRef termofbits(const Str& s);
 // Gives the complete list of the bit string, each element a new leaf K or H, behind it `tail`.
 CellRef listofbits(const Str& s, CellRef tail);
 
-// A value of kind 'i' or 'o' in digit form: x itself if it is a leaf, else the list packed; null for
-// a list that is no number.
+// A value of kind 'i' or 'o' in digit form: x itself if it is a leaf, else the list packed; null
+// for a list that is no number.
 CellRef digitform(Cell* x);
 
 }  // namespace tarn

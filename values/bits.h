@@ -1,6 +1,6 @@
-// Bit strings: texts of packed bits, bit 0 the lowest bit of byte 0. Read past the end gives 0. They
-// are what a number is as a list: element i of the list is bit i, and the highest set bit is no
-// element but a sentinel that marks the end.
+// Bit strings: texts of packed bits, bit 0 the lowest bit of byte 0. Read past the end gives 0.
+// They are what a number is as a list: element i of the list is bit i, and the highest set bit is
+// no element but a sentinel that marks the end.
 //
 //   bit string   elements        value          as a number s
 //   {0x01}       none            the leaf K     1
@@ -19,11 +19,11 @@ namespace tarn {
 bool bitget(int64_t i, const Str& s);          // i is 0 or more
 void bitset(int64_t i, bool v, Str& s);        // grows s by zero bytes as far as i needs
 int64_t bitlen(const Str& s);                  // the highest set bit plus 1; 0 for none
-int64_t bittop(const Str& s);                  // the highest set bit, the list's length; -1 for none
+int64_t bittop(const Str& s);                  // the highest set bit, the list's length; -1: none
 bool bitiszero(const Str& s);
 bool bitnonzero(const Str& s);
 
-// --- Arithmetic: the results may have zero bytes at the high end only where that is said ---------
+// --- Arithmetic: no result but that of bitzeros has zero bytes at the high end --------------------
 
 Str bittrim(const Str& s);                     // without zero bytes at the high end
 Str bitzeros(int64_t n);                       // n zero bytes

@@ -184,7 +184,9 @@ static BitWords shiftdown(const BitWords& a, int64_t n) {
   return shifted;
 }
 
-BitWords wordsshift(const BitWords& a, int64_t n) { return n < 0 ? shiftdown(a, -n) : shiftup(a, n); }
+BitWords wordsshift(const BitWords& a, int64_t n) {
+  return n < 0 ? shiftdown(a, -n) : shiftup(a, n);
+}
 
 void wordsmuladd(BitWords& a, uint64_t factor, uint64_t more) {
   uint64_t carry = more;

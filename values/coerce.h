@@ -19,8 +19,8 @@ bool isnat(const Cell* x);
 
 // --- Integers ------------------------------------------------------------------------------------
 
-// The low 64 bits of the magnitude, with no test of the range: a number that is too large wraps, and
-// the leaf K and a list that is no number are 0. Of what passes isnumbish.
+// The low 64 bits of the magnitude, with no test of the range: a number that is too large wraps,
+// and the leaf K and a list that is no number are 0. Of what passes isnumbish.
 uint64_t hintlow(Cell* x);
 int64_t hintsmall(Cell* x);     // the same, negated if x is negative
 CellRef hintfrom(int64_t n);    // a digit leaf

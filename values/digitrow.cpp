@@ -46,7 +46,8 @@ static uint64_t wordadd(uint64_t x, uint64_t y, uint8_t& carry) {
   return todigits(sum);
 }
 
-// A digit difference below 0 borrows from the next byte and leaves 256 in its own, 246 more than 10.
+// A digit difference below 0 borrows from the next byte and leaves 256 in its own, 246 more than
+// 10.
 static uint64_t wordsub(uint64_t x, uint64_t y, uint8_t& borrow) {
   uint64_t difference;
   uint8_t first = __builtin_sub_overflow(x, y, &difference);

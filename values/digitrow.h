@@ -1,6 +1,7 @@
-// Rows of decimal digits, the raw bytes behind the magnitudes of mag.h: ASCII, lowest digit first.
-// Nothing here allocates or tests a bound. Eight digits are one 64-bit load whose lowest byte is the
-// lowest digit, so that a whole word is added, subtracted or compared in a few instructions:
+// Rows of decimal digits, the raw bytes behind the magnitudes of mag.h: ASCII, lowest digit
+// first. Nothing here allocates or tests a bound. Eight digits are one 64-bit load whose lowest
+// byte is the lowest digit, so that a whole word is added, subtracted or compared in a few
+// instructions:
 //
 //   row     '7' '5' '3' '2' '0' '0' '1' '9'      the number 91002357
 //   word    0x39 31 30 30 32 33 35 37

@@ -122,8 +122,8 @@ static void takeaway(DigitWords& from, const DigitWords& a) {
   }
 }
 
-// a is cut in two. If b is longer than half of a, it is cut at the same place, and the middle of the
-// product comes from one product of sums: (a0 + a1) (b0 + b1) less the two outer products.
+// a is cut in two. If b is longer than half of a, it is cut at the same place, and the middle of
+// the product comes from one product of sums: (a0 + a1) (b0 + b1) less the two outer products.
 static DigitWords splitproduct(const DigitWords& a, const DigitWords& b) {
   size_t half = (a.size() + 1) / 2;
   DigitWords a0 = slice(a, 0, half);

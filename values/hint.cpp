@@ -134,7 +134,9 @@ CellRef hintmod(Cell* x, Cell* y) {
   HintView b = view(y);
   if (!a.isnumber() || !b.isnumber() || b.iszero()) return failure();
   bool agree = a.negative == b.negative;
-  if (a.isshort() && b.isshort()) return shortremainder(shortmagnitude(a), shortmagnitude(b), agree);
+  if (a.isshort() && b.isshort()) {
+    return shortremainder(shortmagnitude(a), shortmagnitude(b), agree);
+  }
   Str divisor = magnitude(b);
   Str rest = magmod(magnitude(a), divisor);
   if (!agree && !magiszero(rest)) rest = magsub(divisor, rest);

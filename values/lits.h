@@ -6,9 +6,9 @@
 
 namespace tarn {
 
-// Packs. A list of truth values becomes its digit leaf, the empty one `K`; a digit leaf is answered as it
-// is; a real becomes the exact numb; the first 8 bytes of a zits or a post are read as one
-// integer, lowest byte first. All else is `Z`.
+// Packs. A list of truth values becomes its digit leaf, the empty one `K`; a digit leaf is
+// answered as it is; a real becomes the exact numb; the first 8 bytes of a zits or a post are
+// read as one integer, lowest byte first. All else is `Z`.
 CellRef valuelits(Cell* x);
 
 // Unpacks into a complete list that ends in `K`. A number becomes its bits; a real the 64 bits of

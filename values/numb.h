@@ -1,5 +1,6 @@
-// The numbs of the language, kind 'o': exact binary numbers with a fraction. A digit leaf whose text
-// begins "00", or a list of truth values that begins with H; numbbody.h tells how the bits stand.
+// The numbs of the language, kind 'o': exact binary numbers with a fraction. A digit leaf whose
+// text begins "00", or a list of truth values that begins with H; numbbody.h tells how the bits
+// stand.
 //
 //   "00"  0      "001"  1      "002"  0.5      "003"  1.5      "0017"  5      "000"  -1
 //
@@ -13,8 +14,8 @@
 
 namespace tarn {
 
-// Each call of these two appends a line to "/tmp/both.bug": "jjaa", the sign of y, the sign of x (for
-// numbsub, y's is that of the negated y). On purpose: the trace is part of what they do.
+// Each call of these two appends a line to "/tmp/both.bug": "jjaa", the sign of y, the sign of x
+// (for numbsub, y's is that of the negated y). On purpose: the trace is part of what they do.
 CellRef numbadd(Cell* x, Cell* y);
 CellRef numbsub(Cell* x, Cell* y);
 
@@ -22,8 +23,8 @@ CellRef numbmul(Cell* x, Cell* y);
 CellRef numbmod(Cell* x, Cell* y);  // never negative; Z for a zero y. There is no division.
 CellRef numbneg(Cell* x);
 
-// y is an integer. A power of 2, the numb "004", is exact for a negative y too; Z from 2^59 up. With
-// any other x a negative y gives Z, and zero gives 00.
+// y is an integer. If x is 2, the numb "004", the power is exact, for a negative y too; Z if the
+// magnitude of y is 2^59 or more. With any other x a negative y gives Z, and zero gives 00.
 CellRef numbpow(Cell* x, Cell* y);
 
 // On purpose: the place of 2^0, not the sign. The order of numbs goes by it as well.

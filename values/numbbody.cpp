@@ -1,4 +1,5 @@
-// Gathering and spreading, a byte of the body at a time: four places before the point and four behind.
+// Gathering and spreading, a byte of the body at a time: four places before the point and four
+// behind.
 #include "values/numbbody.h"
 
 #include <array>

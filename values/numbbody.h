@@ -1,5 +1,5 @@
-// The body of a numb: a text of packed bits in which the whole and the fractional places interleave,
-// so that a number with any number of either is one growing string.
+// The body of a numb: a text of packed bits in which the whole and the fractional places
+// interleave, so that a number with any number of either is one growing string.
 //
 //   bit index   0     1    2     3    4     5    6     7   ...
 //   weight      sign  2^0  2^-1  2^1  2^-2  2^2  2^-3  2^3        sign is 1 for non-negative
@@ -33,8 +33,8 @@ struct NumbRow {
   int64_t point;
 };
 
-// Gathers the places of t as if it had n bytes, which must not be less than it has; rows of the same
-// n have the same point.
+// Gathers the places of t as if it had n bytes, which must not be less than it has; rows of the
+// same n have the same point.
 NumbRow numbgather(const Str& t, int64_t n);
 // The body of such a row with a sign; {0x01} for zero, whatever the sign.
 Str numbspread(bool positive, const NumbRow& row);

@@ -1,4 +1,5 @@
-// Integers: each rule by hand, and every operation against the slow way with all four pairs of signs.
+// Integers: each rule by hand, and every operation against the slow way with all four pairs of
+// signs.
 #include "values/hint.h"
 
 #include <gtest/gtest.h>
@@ -193,7 +194,7 @@ Signed slowproduct(const Signed& x, const Signed& y) {
 TEST(Hint, AgreesWithTheSlowWay) {
   Random random(8);
   for (int i = 0; i < 4000; i++) {
-    int most = i % 2 != 0 ? 22 : 60;  // around the length where the machine's integers end, and above
+    int most = i % 2 != 0 ? 22 : 60;  // around where the machine's integers end, and above
     Signed x = randomsigned(random, most);
     Signed y = randomsigned(random, most);
     ASSERT_EQ(work(hintadd, x.text(), y.text()), slowsum(x, y).text());

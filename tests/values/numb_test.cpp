@@ -1,4 +1,5 @@
-// Numbs: their bodies, arithmetic against exact fractions, and all that is odd about them on purpose.
+// Numbs: their bodies, arithmetic against exact fractions, and all that is odd about them on
+// purpose.
 #include "values/numb.h"
 
 #include <gtest/gtest.h>
@@ -162,7 +163,7 @@ TEST(Numb, ArithmeticAgreesWithExactFractions) {
   }
 }
 
-// --- Long numbs: the decimal route through integers is another way to the same answers ------------
+// --- Long numbs: the decimal way through integers leads to the same answers ----------------------
 
 CellRef randomhint(Random& random) {
   std::string digits = randomdigits(random, 400);
