@@ -249,7 +249,8 @@ int termorder(const Cell* x, const Cell* y);
 struct Definition;
 
 // What stands in front of a leaf's header: the record of a name leaf once it has been looked up
-// (definitions.h), else 0; and in the lowest three bits, how the leaf was allocated.
+// (definitions.h), the slots that the block of a grown array has room for, else 0; and in the lowest
+// three bits, how the leaf was allocated.
 constexpr uint64_t CELLHINT = ~uint64_t{7};
 
 inline uint64_t& leafhint(const Cell* c) { return const_cast<Cell*>(c)[-1].header; }

@@ -63,10 +63,10 @@ static void startspine(Spine& p, Cell* v) {
 // has not n parameters.
 static Definition* unfolds(Cell* head, int n) {
   if (cellispair(head)) return nullptr;
+  uint8_t first = leafbytes(head)[0];
+  if (first == '\n' || first == '\\' || first == '{' || first == ')') return nullptr;
   Definition* d = leafdefinition(head);
   if (d == nullptr || d->builtin != nullptr || d->term.null()) return nullptr;
-  uint8_t first = leafbytes(head)[0];
-  if (first == '\\' || first == '{' || first == ')') return nullptr;
   definitionknow(d);
   return d->arity == n && n <= DEFINITIONPARAMS ? d : nullptr;
 }
