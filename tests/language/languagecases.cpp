@@ -17,7 +17,7 @@
 #include "foundation/str.h"
 #include "frontend/driver.h"
 #include "graph/cell.h"
-#include "host/builtintable.h"
+#include "host/start.h"
 
 namespace tarn {
 
@@ -144,7 +144,7 @@ struct Job {
 
 void work(void* argument) {
   Job& job = *static_cast<Job*>(argument);
-  hostinstall();
+  hoststart();
   evaluate("cray", 0);  // what is made once for the process does not count
   int run = 0;
   for (const std::string& path : job.paths) {
