@@ -3,14 +3,12 @@
 
 #include <gtest/gtest.h>
 
-#include <csignal>
 #include <string>
+
+#include "tests/support/death.h"
 
 namespace tarn {
 namespace {
-
-#define EXPECT_FAILS(statement) \
-  EXPECT_EXIT(statement, testing::KilledBySignal(SIGABRT), "ASSERTION FAILED:frontend/brackets.cpp:")
 
 // The message, empty for a sound text.
 std::string told(const Str& text, int64_t base = 0) {
@@ -102,11 +100,11 @@ TEST(SkipGroup, FindsThePartnerBothWays) {
   EXPECT_EQ(skipgroup("[a[b]]", 5), 0);
   EXPECT_EQ(skipgroup("[a[b]]", 2), 4);
   EXPECT_EQ(skipgroup("(}", 0), 1);  // the kinds are not told apart here
-  EXPECT_FAILS(skipgroup("", 0));
-  EXPECT_FAILS(skipgroup("a", 1));
-  EXPECT_FAILS(skipgroup("a", -1));
-  EXPECT_FAILS(skipgroup("(", 0));
-  EXPECT_FAILS(skipgroup("]", 0));
+  EXPECT_FAILS(skipgroup("", 0), "frontend/brackets.cpp");
+  EXPECT_FAILS(skipgroup("a", 1), "frontend/brackets.cpp");
+  EXPECT_FAILS(skipgroup("a", -1), "frontend/brackets.cpp");
+  EXPECT_FAILS(skipgroup("(", 0), "frontend/brackets.cpp");
+  EXPECT_FAILS(skipgroup("]", 0), "frontend/brackets.cpp");
 }
 
 using Places = std::vector<int64_t>;
@@ -129,8 +127,8 @@ TEST(PairBrackets, PairsAllButTheInsideOfStrings) {
   EXPECT_EQ(pairbrackets("({[(]})"), (Places{6, 5, 4, -1, 2, 1, 0}));
   EXPECT_EQ(pairbrackets("[a[b]]"), (Places{5, -1, -1, -1, -1, 0}));
   EXPECT_EQ(pairbrackets("ab"), (Places{-1, -1}));
-  EXPECT_FAILS(pairbrackets("("));
-  EXPECT_FAILS(pairbrackets(")"));
+  EXPECT_FAILS(pairbrackets("("), "frontend/brackets.cpp");
+  EXPECT_FAILS(pairbrackets(")"), "frontend/brackets.cpp");
 }
 
 }  // namespace
