@@ -37,10 +37,8 @@ static uint64_t leafbits(Cell* c) {
     case '[': return CELLFLAG;
     case ' ':
     case '(': return codebits(1);
-    default: break;
+    default: return isdigitbyte(leafbytes(c)[0]) ? codebits(1) : namebits(c);
   }
-  if (isdigitbyte(leafbytes(c)[0])) return codebits(1);
-  return namebits(c);
 }
 
 // --- Pairs ---------------------------------------------------------------------------------------
@@ -61,7 +59,8 @@ uint64_t binderletters(const Cell* l, const Cell* r, uint64_t letters) {
 
 // --- Whole terms ---------------------------------------------------------------------------------
 
-void cellannotatenew(Cell* c) {
+// Deep terms: a list of the cells to do, the last one first.
+static void annotatedeep(Cell* c) {
   std::vector<Cell*> list = {c};
   while (!list.empty()) {
     Cell* x = list.back();
@@ -69,15 +68,21 @@ void cellannotatenew(Cell* c) {
       list.pop_back();
     } else if (cellisleaf(x)) {
       x->header |= leafbits(x);
-      list.pop_back();
     } else if (!cellannotated(leftlink(x))) {
       list.push_back(leftlink(x));
     } else if (!cellannotated(rightlink(x))) {
       list.push_back(rightlink(x));
     } else {
       x->header |= pairbits(leftlink(x), rightlink(x));
-      list.pop_back();
     }
+  }
+}
+
+void cellannotatenew(Cell* c) {
+  if (cellisleaf(c)) {
+    c->header |= leafbits(c);
+  } else {
+    annotatedeep(c);
   }
 }
 

@@ -1,5 +1,5 @@
-// The cached description as the machine reads and writes it: of cells that are annotated already, so
-// that each test is a load and a compare, and a new Pair over two such cells is annotated at once.
+// The cached description as the machine reads and writes it: of cells that are annotated already,
+// so that each test is a load and a compare, and a new Pair of two such cells is annotated at once.
 #pragma once
 
 #include <cstdint>
@@ -35,8 +35,8 @@ inline uint64_t knownfree(const Cell* c) {
   return counts ? 0 : c->header & CELLFIELD;
 }
 
-// The description bits of a Pair of two data, and of one whose left link is a Pair of known letters:
-// the parts of pairbits that are seldom needed.
+// The parts of pairbits that are seldom needed: all bits of a Pair of two data, and the letters of a
+// Pair over a Pair, which may be a local binding; `letters` are those of both links.
 uint64_t datapairbits(const Cell* l, const Cell* r);
 uint64_t binderletters(const Cell* l, const Cell* r, uint64_t letters);
 

@@ -29,7 +29,7 @@
 //   ')'      memo mark  the name of a global definition             field: 0
 //   ']'      failure    its text                                    field: 0
 //   '`'      line mark                                              field: line number
-//   other    name       of a definition, a builtin or a variable    field: free letters, bit 0 is 'a'
+//   other    name       of a definition, a builtin, a variable      field: free letters, bit 0: 'a'
 // A length of 0x4000000 or more does not fit; field is 0 then and the length is found by a scan.
 //
 // Ownership, in three words: a function *takes* a reference (a CellRef by value: the caller's is
@@ -177,7 +177,7 @@ CellRef leafcstr(const char* text);             // up to the NUL; null is a prog
 CellRef leafstr(Str text);                      // may hold NULs
 CellRef leafbyte(uint8_t byte);                 // that one byte
 CellRef leafmade(const void* bytes, int64_t n); // n bytes, copied
-// n bytes, 1 or more, of which only the first is set, as it tells the form, and the NUL behind them.
+// n bytes, 1 or more, of which only the first is set, as it tells the form, and the NUL behind all.
 // Not for names.
 CellRef leafsized(uint8_t first, int64_t n);
 CellRef leafdigits(uint64_t n);                 // a digit leaf of n in decimal
@@ -188,7 +188,7 @@ CellRef leafdigits(uint64_t n);                 // a digit leaf of n in decimal
 // them are there, but nothing reads or releases them. One beyond all memory fails in malloc.
 CellRef craynew(int64_t slots);
 inline int64_t crayslots(const Cell* c) { return static_cast<int64_t>(cellfield(c)); }
-// Takes the only reference to an array of less than 0x3ffffff slots and gives it back with one more,
+// Takes the only reference to an array of less than 0x3ffffff slots, gives it back with one more,
 // empty, slot at the end, maybe at another place. A block that grows gets spare room, so that many
 // appends cost little each.
 Cell* craygrown(Cell* c);

@@ -1,5 +1,5 @@
-// The primitive reductions: what each kind of head does with its arguments. The scheduler (reduce.cpp)
-// decides which redex goes next.
+// The primitive reductions: what each kind of head does with its arguments. The scheduler
+// (reduce.cpp) decides which redex goes next.
 #pragma once
 
 #include "graph/definitions.h"

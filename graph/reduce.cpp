@@ -7,7 +7,11 @@
 
 namespace tarn {
 
+static int64_t steplimit = INT64_MAX;
+
 int64_t reducesteps() { return stepcount; }
+
+void reducelimit(int64_t limit) { steplimit = limit; }
 
 static bool islazyhead(Cell* f) { return islazybyte(cellbyte(spinehead(f))); }
 
@@ -231,11 +235,19 @@ static void reducestep(State& s) {
   }
 }
 
+static void giveup(State& s) {
+  focuson(s, leafbyte('Z').give());
+  dropframes(s);
+}
+
 void reduceterm(CellRef& out, CellRef term) {
   bool was = finaliserswitch(true);
   cellannotate(term);
   State s = {term.give(), nullptr, nullptr, nullptr};
-  while (s.top != s.frames || !knownnormal(s.focus)) reducestep(s);
+  while (s.top != s.frames || !knownnormal(s.focus)) {
+    reducestep(s);
+    if (stepcount >= steplimit) giveup(s);
+  }
   free(s.frames);
   finaliserswitch(was);
   out = CellRef::adopt(s.focus);

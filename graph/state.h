@@ -1,7 +1,7 @@
 // The state of the abstract machine, `C F`: a continuation and a focus. It is a term of the
-// language: a continuation is `I`, or `B k f` to go on with `f v` under `k` when the focus has become
-// the value v. The machine keeps the continuation as an array of frames, the nearest last, and not
-// as cells; nothing of a program can tell.
+// language: a continuation is `I`, or `B k f` to go on with `f v` under `k` when the focus has
+// become the value v. The machine keeps the continuation as an array of frames, the nearest last,
+// and not as cells; nothing of a program can tell.
 //
 //   frames         as a term                  when the focus is the value v
 //   (none)         I                          v is the result

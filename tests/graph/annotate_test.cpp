@@ -142,7 +142,7 @@ TEST_F(AnnotateTest, DataPairsSumTheirSizes) {
   cellannotate(rope);
   EXPECT_EQ(cellfield(rope), 9u);
   EXPECT_EQ(cellfree(rope), 0u);
-  CellRef big = leafstr(Str("[") + strsized(0) + Str(std::string(0x2000000 - 2, 'x').c_str()) + "]");
+  CellRef big = leafcstr(("[" + std::string(0x2000000 - 2, 'x') + "]").c_str());
   CellRef under = cellpair(big, term("[]"));
   cellannotate(under);
   EXPECT_EQ(cellfield(under), 0x2000002u);

@@ -166,6 +166,29 @@ TEST_F(ReduceTest, ALiveNameIsEvaluatedAtEachUse) {
   EXPECT_EQ(shown(defterm("foo")), "I (tell 3)");
 }
 
+TEST_F(ReduceTest, ALiveNameDefinedByItselfIsNoCycle) {
+  define("foo", "I foo");
+  aliveadd("foo");
+  reducelimit(reducesteps() + 1000);
+  EXPECT_EQ(reduced("foo"), "Z");
+  reducelimit(INT64_MAX);
+}
+
+TEST_F(ReduceTest, ARunWithoutEndIsCutOffAtTheLimit) {
+  int64_t before = cellcounts().alive;
+  define("foo", "\\ a (plus 1 (foo a))");
+  define("goo", "\\ a (goo a)");
+  reducelimit(reducesteps() + 1000);
+  EXPECT_EQ(reduced("plus 1 (foo 1)"), "Z");
+  EXPECT_EQ(reduced("goo 1"), "Z");
+  EXPECT_EQ(reduced("1"), "1");
+  reducelimit(INT64_MAX);
+  EXPECT_EQ(reduced("plus 1 2"), "3");
+  deferase("foo");
+  deferase("goo");
+  EXPECT_EQ(cellcounts().alive, before);
+}
+
 TEST_F(ReduceTest, AConstantDefinedByItselfIsACycle) {
   define("foo", "foo");
   EXPECT_EQ(reduced("foo"), ")foo");
@@ -359,8 +382,8 @@ static std::string randomterm(unsigned& seed, int n, int bound) {
     seed = seed * 1103515245u + 12345u;
     return static_cast<int>((seed >> 16) % static_cast<unsigned>(sides));
   };
-  static const char* const atoms[] = {"K", "I", "S", "B",    "C",    "T",    "V", "J",   "W", "H", "Z",
-                                      "+", "1", "2", "plus", "tell", "less", "&", "con", "fun", "T 1"};
+  static const char* const atoms[] = {"K", "I", "S", "B", "C",    "T",    "V",    "J",   "W",   "H",  "Z",
+                                      "+", "&", "1", "2", "plus", "tell", "less", "con", "fun", "T 1"};
   if (n <= 1) {
     if (bound > 0 && roll(3) == 0) return std::string(1, static_cast<char>('a' + roll(bound)));
     return atoms[roll(static_cast<int>(sizeof atoms / sizeof atoms[0]))];
