@@ -38,8 +38,9 @@ static int64_t sameend(const uint8_t* a, const uint8_t* b, int64_t n) {
 
 static int64_t smaller(int64_t a, int64_t b) { return a < b ? a : b; }
 
-// Goes from i up to `end` while the text has the bytes of `saved` at the same offsets.
-static int64_t goup(const sheet& s, int64_t i, int64_t end, int64_t effort) {
+// Goes from i up to `end` while the text has the bytes of `saved` at the same offsets. Tells in
+// `differs` whether it has met one that differs.
+static int64_t goup(const sheet& s, int64_t i, int64_t end, int64_t effort, bool& differs) {
   reader r = readsheet(s);
   while (i < end && effort > 0 && readto(r, i)) {
     const uint8_t* ours = r.bytes + (i - r.start);
@@ -49,7 +50,8 @@ static int64_t goup(const sheet& s, int64_t i, int64_t end, int64_t effort) {
     if (ours != theirs) {
       n = smaller(n, effort > 1 ? effort : 1);
       int64_t same = samestart(ours, theirs, n);
-      if (same < n) return i + same;
+      differs = same < n;
+      if (differs) return i + same;
       effort -= n;
     }
     i += n;
@@ -80,47 +82,55 @@ static int64_t godown(const sheet& s, int64_t i, int64_t end, int64_t effort) {
   return i;
 }
 
-static void setbounds(sheet& s, int64_t low, int64_t high) {
+static void setbounds(sheet& s, int64_t low, int64_t high, bool lowdiffers) {
   s.difflow = static_cast<int32_t>(low);
   s.diffhigh = static_cast<int32_t>(high);
+  s.lowdiffers = lowdiffers;
 }
 
-void boundsempty(sheet& s) { setbounds(s, size(s), size(s)); }
+void boundsempty(sheet& s) { setbounds(s, size(s), size(s), false); }
 
-// Narrows the range from `low` to `high`, for which the first two rules of sheet.h hold.
-static void tighten(sheet& s, int64_t low, int64_t high, int64_t effort) {
+// Narrows the range from `low` to `high`, for which the first two rules of sheet.h hold. The byte at
+// `low` can be known to differ.
+static void tighten(sheet& s, int64_t low, int64_t high, bool lowdiffers, int64_t effort) {
   int64_t n = size(s);
   int64_t both = smaller(s.saved.len(), n);
   bool samesize = n == s.saved.len();
-  low = goup(s, low, smaller(both, high), samesize ? noteffort : effort);
+  if (!lowdiffers) {
+    low = goup(s, low, smaller(both, high), samesize ? noteffort : effort, lowdiffers);
+  }
   if (low == high && samesize) return boundsempty(s);
   int64_t limit = n - (both - low);  // so that no byte of `saved` counts for both ends
   if (high < limit) high = limit;
-  setbounds(s, low, godown(s, high, limit, effort));
+  setbounds(s, low, godown(s, high, limit, effort), lowdiffers);
 }
+
+// Whether a change at the point leaves the byte at difflow as it was, and that is known to differ.
+static bool lowstays(const sheet& s) { return s.lowdiffers && s.difflow < s.point; }
 
 // The first byte put into a clean text is not compared: a typed byte shows as changed even if it
 // equals its neighbour.
 void boundsinserted(sheet& s, int64_t n, bool wasclean) {
   int64_t point = s.point;
-  if (wasclean && n == 1) return setbounds(s, point, point + 1);
+  if (wasclean && n == 1) return setbounds(s, point, point + 1, false);
   int64_t low = wasclean ? point : smaller(s.difflow, point);
   int64_t high = wasclean || s.diffhigh < point ? point : s.diffhigh;
-  tighten(s, low, high + n, usualeffort);
+  tighten(s, low, high + n, lowstays(s), usualeffort);
 }
 
 void boundsdeleted(sheet& s, int64_t n) {
   int64_t point = s.point;
   int64_t low = smaller(s.difflow, point);
   int64_t high = s.diffhigh - n < point ? point : s.diffhigh - n;
-  tighten(s, low, high, usualeffort);
+  tighten(s, low, high, lowstays(s), usualeffort);
 }
 
-void boundsanew(sheet& s) { tighten(s, 0, size(s), noteffort); }
+void boundsanew(sheet& s) { tighten(s, 0, size(s), false, noteffort); }
 
 void checkbounds(const sheet& s) {
   int64_t n = size(s);
   int64_t tail = n - s.diffhigh;
+  check(!s.lowdiffers || byteat(s, s.difflow) != s.saved.at(s.difflow));
   check(0 <= s.difflow && s.difflow <= s.diffhigh && tail >= 0);
   check(s.difflow + tail <= s.saved.len());
   check(stretch(s, 0, s.difflow) == s.saved.substr(0, s.difflow));

@@ -20,7 +20,10 @@ struct reader {
   int64_t length;
 };
 
-inline reader readsheet(const sheet& s) { return {s.root, nullptr, nullptr, 0, 0}; }
+inline reader readsheet(const sheet& s) {
+  if (s.hand == nullptr) return {s.root, nullptr, nullptr, 0, 0};
+  return {s.root, s.hand, shardbytes(s.hand), s.handstart, shardlength(s.hand)};
+}
 
 // Makes the stretch the one that holds offset i; false, and the reader as it was, outside the text.
 bool readto(reader& r, int64_t i);

@@ -23,9 +23,11 @@ static void retotal(shard* s) {
   settotal(s, shardtotal(s->left) + shardlength(s) + shardtotal(s->right));
 }
 
-// Adds n, which may be negative, to the totals from s up to but not including `stop`.
+// Adds n, which may be negative, to the totals from s up to but not including `stop`. Each of them
+// stays at least 1 and at most the root's, which the caller tests before it adds.
 static void addtotals(shard* s, const shard* stop, int64_t n) {
-  for (; s != stop; s = s->parent) settotal(s, shardtotal(s) + n);
+  uint32_t added = static_cast<uint32_t>(n) << 1;
+  for (; s != stop; s = s->parent) s->word += added;
 }
 
 shard* shardsingle(uint8_t byte) {
@@ -162,6 +164,7 @@ static void balanceremoved(shard*& root, shard* s, shard* parent) {
 
 // Hangs a fresh shard below `parent`, which has nothing on that side.
 static void attach(shard*& root, shard* parent, Side side, shard* fresh) {
+  check(shardlength(fresh) <= sizelimit - shardtotal(root));
   parent->*side = fresh;
   fresh->parent = parent;
   addtotals(parent, nullptr, shardlength(fresh));
@@ -250,13 +253,14 @@ void shardinsert(shard*& root, int64_t i, shard* fresh) {
   } else {
     int64_t within = 0;
     shard* s = shardfind(root, i, within);
-    if (within != 0) {
-      cutrun(root, s, within, within);
-      attachbeside(root, s, &shard::right, fresh);
-    } else {
-      attachbeside(root, s, &shard::left, fresh);
-    }
+    shardinsertat(root, s, within, fresh);
   }
+}
+
+void shardinsertat(shard*& root, shard* s, int64_t within, shard* fresh) {
+  if (within == 0) return attachbeside(root, s, &shard::left, fresh);
+  if (within < shardlength(s)) cutrun(root, s, within, within);
+  attachbeside(root, s, &shard::right, fresh);
 }
 
 void shardremove(shard*& root, int64_t i, int64_t n) {

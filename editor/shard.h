@@ -68,6 +68,9 @@ void shardsplit(shard*& root, int64_t i);
 // Puts a fresh shard in front of the byte at offset i, 0 to the total inclusive.
 void shardinsert(shard*& root, int64_t i, shard* fresh);
 
+// The same, `within` bytes into the shard s of the tree, 0 to its length: without a search.
+void shardinsertat(shard*& root, shard* s, int64_t within, shard* fresh);
+
 // Removes n bytes from offset i on; all of them must be there.
 void shardremove(shard*& root, int64_t i, int64_t n);
 

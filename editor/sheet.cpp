@@ -34,7 +34,7 @@ static void keep(sheet& s, const Str& text) { s.kept = new kepttext{text, s.kept
 // Frees the tree and what it points into but `saved`.
 static void droptree(sheet& s) {
   shardfree(s.root);
-  s.root = nullptr;
+  s.root = s.hand = nullptr;
   while (s.kept != nullptr) {
     kepttext* next = s.kept->next;
     delete s.kept;
@@ -106,12 +106,22 @@ static void touch(sheet& s, int32_t from) {
   if (from < s.touched) s.touched = from;
 }
 
-void insertbyte(sheet& s, uint8_t byte) {
+// Puts a fresh shard in at the point. Most go right behind the one put in last.
+static void insertshard(sheet& s, shard* fresh) {
   bool wasclean = isclean(s);
-  shardinsert(s.root, s.point, shardsingle(byte));
+  int64_t within = s.point - s.handstart;
+  if (s.hand != nullptr && within >= 0 && within <= shardlength(s.hand)) {
+    shardinsertat(s.root, s.hand, within, fresh);
+  } else {
+    shardinsert(s.root, s.point, fresh);
+  }
+  s.hand = fresh;
+  s.handstart = s.point;
   touch(s, s.point);
-  boundsinserted(s, 1, wasclean);
+  boundsinserted(s, shardlength(fresh), wasclean);
 }
+
+void insertbyte(sheet& s, uint8_t byte) { insertshard(s, shardsingle(byte)); }
 
 void deletebyte(sheet& s) { deletecount(s, 1); }
 
@@ -126,11 +136,8 @@ void replacebyte(sheet& s, uint8_t byte) {
 static constexpr int64_t runfloor = 256;
 
 static void insertrun(sheet& s, const Str& text) {
-  bool wasclean = isclean(s);
   keep(s, text);
-  shardinsert(s.root, s.point, shardrun(text.bytes(), text.len()));
-  touch(s, s.point);
-  boundsinserted(s, text.len(), wasclean);
+  insertshard(s, shardrun(text.bytes(), text.len()));
   s.point += static_cast<int32_t>(text.len());
 }
 
@@ -144,6 +151,7 @@ void insertstring(sheet& s, const Str& text) {
 
 void deletecount(sheet& s, int64_t n) {
   if (n == 0) return;
+  s.hand = nullptr;
   shardremove(s.root, s.point, n);
   touch(s, s.point);
   boundsdeleted(s, n);

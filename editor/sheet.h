@@ -44,6 +44,9 @@ struct sheet {
   int32_t point = 0;       // the cursor, 0 to the size inclusive
   shard* root = nullptr;   // the text; its runs point into `saved` and the kept texts
   kepttext* kept = nullptr;
+  shard* hand = nullptr;   // the shard put in last, where reading starts; null after other changes
+  int32_t handstart = 0;   // its offset
+  bool lowdiffers = false; // the byte at difflow is known not to be that of `saved`
   Str saved;               // the text as read or last saved; never written to
 };
 

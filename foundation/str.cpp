@@ -88,19 +88,22 @@ static Str joined(const void* a, int64_t n, const void* b, int64_t m) {
   return made;
 }
 
-Str& Str::operator+=(const Str& tail) {
-  return *this = joined(bytes(), len(), tail.bytes(), tail.len());
-}
+Str& Str::operator+=(const Str& tail) { return *this = *this + tail; }
 
 Str& Str::operator+=(char c) { return *this = joined(bytes(), len(), &c, 1); }
 
-Str operator+(const Str& a, const Str& b) { return joined(a.bytes(), a.len(), b.bytes(), b.len()); }
+Str operator+(const Str& a, const Str& b) {
+  if (a.empty()) return b;
+  if (b.empty()) return a;
+  return joined(a.bytes(), a.len(), b.bytes(), b.len());
+}
 
 Str operator+(const char* a, const Str& b) {
   return joined(a, static_cast<int64_t>(strlen(a)), b.bytes(), b.len());
 }
 
 int strcompare(const Str& a, const Str& b) {
+  if (a.same(b)) return 0;
   int64_t shorter = a.len() < b.len() ? a.len() : b.len();
   int order = memcmp(a.bytes(), b.bytes(), static_cast<size_t>(shorter));
   if (order != 0) return order;
