@@ -107,9 +107,7 @@ void unsharepass(Cell* term) {
   unsharepass(rightlink(term));
 }
 
-void shareclear() {
-  sharetable().terms.clear();
-  sharetable().hashes.clear();
-}
+// Made anew, since emptied tables would keep the room of the largest run.
+void shareclear() { sharetable() = ShareTable(); }
 
 }  // namespace tarn

@@ -13,8 +13,9 @@ void reduceterm(CellRef& out, CellRef term);
 // state is a term: the real one does several at once where it can, and counts them all.
 int64_t reducesteps();
 
-// Once so many steps have been made since the start of the process, every run is cut off with the
-// value `Z`. Without a limit at first; it is for tests that evaluate whatever they come across.
+// Once so many steps have been made since the start of the process, every run is cut off with an
+// empty failure for its value. Without a limit at first; it is for tests that evaluate whatever they
+// come across.
 void reducelimit(int64_t steps);
 
 // Finalisers run only while this is on, and reduceterm alone turns it on. What must not run any
