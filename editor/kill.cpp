@@ -7,8 +7,25 @@
 #include "editor/sheet.h"
 #include "editor/state.h"
 #include "editor/status.h"
+#include "foundation/strbuilder.h"
 
 namespace tarn {
+
+// What an unbroken row of C-k has cut since the first of them. It is joined to `clip` only when
+// that is wanted, so that each C-k costs no more than what it cuts.
+static StrBuilder* gathered = nullptr;
+
+static void setclip(const Str& text) {
+  StrBuilder::free(gathered);
+  gathered = nullptr;
+  clip = text;
+}
+
+static const Str& joinedclip() {
+  if (gathered != nullptr) clip += StrBuilder::take(gathered);
+  gathered = nullptr;
+  return clip;
+}
 
 // Cuts the selection, leaving the point where it began.
 static void killselection(sheet& s) {
@@ -17,7 +34,7 @@ static void killselection(sheet& s) {
   mark = -1;
   setstat(currentname);
   if (from == to) return chirp();
-  clip = stretch(s, from, to);
+  setclip(stretch(s, from, to));
   s.point = static_cast<int32_t>(from);
   opdelete(clip);
 }
@@ -36,17 +53,21 @@ void tarndock() {
     return chirp();
   }
   Str cut = restofline(s);
-  clip = killchain ? cut : clip + cut;
+  if (killchain) {
+    setclip(cut);
+  } else {
+    gathered = StrBuilder::add(gathered, cut);
+  }
   killchain = false;
   opdelete(cut);
 }
 
 void tarnpaste() {
-  if (!oppaste(clip)) chirp();
+  if (!oppaste(joinedclip())) chirp();
 }
 
-void tarndoma() { clip = stat; }
+void tarndoma() { setclip(stat); }
 
-void tarndomz() { clip = flatten(currentsheet()); }
+void tarndomz() { setclip(flatten(currentsheet())); }
 
 }  // namespace tarn

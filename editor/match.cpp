@@ -123,20 +123,20 @@ static uint8_t widestmask(const Pattern& p, int64_t position, int32_t byte) {
 // A probe of a position; false if its bytes are too many for one.
 static bool probemake(const Pattern& p, int64_t position, Probe& probe) {
   int32_t pairs = 0;
-  bool covered[256] = {};
+  bool covered[128] = {};
   probe.offset = position;
-  for (int32_t byte = 0; byte < 256; byte++) {
+  for (int32_t byte = 0; byte < 128; byte++) {
     if (covered[byte] || !matchesat(p, position, byte)) continue;
-    if (pairs == 3) return false;
+    if (pairs == 2) return false;
     uint8_t mask = widestmask(p, position, byte);
     uint8_t value = static_cast<uint8_t>(byte & mask);
-    for (int32_t other = 0; other < 256; other++) covered[other] |= (other & mask) == value;
+    for (int32_t other = 0; other < 128; other++) covered[other] |= (other & mask) == value;
     probe.masks[pairs] = mask;
     probe.values[pairs++] = value;
   }
-  for (; pairs > 0 && pairs < 3; pairs++) {
-    probe.masks[pairs] = probe.masks[0];
-    probe.values[pairs] = probe.values[0];
+  if (pairs == 1) {
+    probe.masks[1] = probe.masks[0];
+    probe.values[1] = probe.values[0];
   }
   return pairs > 0;
 }
@@ -167,14 +167,14 @@ static void pickprobes(Pattern& p, const Str& text) {
   }
   if (best[0] == INT64_MAX) return;
   if (best[1] == INT64_MAX) p.probe[1] = p.probe[0];
-  p.probes = 2;
+  p.probed = true;
 }
 
 Pattern patternmake(const Str& text) {
   check(!text.empty() && text.len() <= patternlimit);
   Pattern p;
   p.length = text.len();
-  p.probes = 0;
+  p.probed = false;
   for (uint64_t& mask : p.masks) mask = 1;
   for (int64_t i = 0; i < text.len(); i++) {
     const MatchRow& row = matchrow(text.at(i));
@@ -189,73 +189,141 @@ Pattern patternmake(const Str& text) {
 static constexpr int64_t probeblock = 64;    // starts that are probed at once
 static constexpr int64_t plainblock = 4096;  // starts that are walked at once without probes
 
-// Sixteen bytes at once.
+// Sixteen bytes at once. Of the result of a probe only the highest bit of each byte counts.
 using Bytes = uint8_t __attribute__((vector_size(16)));
+static constexpr uint64_t highbits = 0x8080808080808080;
+static constexpr int64_t vectors = probeblock / static_cast<int64_t>(sizeof(Bytes));
 
-static Bytes load(const uint8_t* from) {
-  Bytes bytes;
-  memcpy(&bytes, from, sizeof bytes);
-  return bytes;
+// A probe with its bytes spread over vectors.
+struct WideProbe {
+  int64_t offset;
+  Bytes masks[2];
+  Bytes values[2];
+};
+
+static WideProbe widen(const Probe& probe) {
+  return {probe.offset,
+          {Bytes{} + probe.masks[0], Bytes{} + probe.masks[1]},
+          {Bytes{} + probe.values[0], Bytes{} + probe.values[1]}};
 }
 
-static Bytes probed(const Probe& probe, Bytes b) {
-  Bytes found = {};
-  for (int32_t i = 0; i < 3; i++) found |= Bytes((b & probe.masks[i]) == probe.values[i]);
-  return found;
+static inline Bytes probed(const WideProbe& probe, const uint8_t* starts) {
+  Bytes b;
+  memcpy(&b, starts + probe.offset, sizeof b);
+  return b | Bytes((b & probe.masks[0]) == probe.values[0]) |
+         Bytes((b & probe.masks[1]) == probe.values[1]);
 }
 
-// Whether one of the probeblock places at and behind `starts` passes both probes.
-static bool blockpasses(const Pattern& p, const uint8_t* starts) {
-  Bytes any = {};
-  for (int64_t i = 0; i < probeblock; i += static_cast<int64_t>(sizeof(Bytes))) {
-    any |= probed(p.probe[0], load(starts + p.probe[0].offset + i)) &
-           probed(p.probe[1], load(starts + p.probe[1].offset + i));
+// Whether the whole pattern matches at a place.
+static bool matchesall(const Pattern& p, const uint8_t* bytes) {
+  for (int64_t i = 0; i < p.length; i++) {
+    if (!matchesat(p, i, bytes[i])) return false;
   }
-  uint64_t halves[2];
-  memcpy(halves, &any, sizeof halves);
-  return (halves[0] | halves[1]) != 0;
+  return true;
 }
 
-// Whether a match may start among the `count` places from `start` on.
-static bool maymatch(reader& r, const Pattern& p, int64_t start, int64_t count) {
-  if (p.probes == 0 || count < probeblock || !readto(r, start)) return true;
-  int64_t within = start - r.start;
-  if (within + probeblock + p.length > r.length) return true;
-  return blockpasses(p, r.bytes + within);
+// The first of the places of a block that passed the probes and matches, or the last; -1 for none.
+static int64_t pickplace(const Pattern& p, const uint8_t* starts, const Bytes* passed, bool last) {
+  constexpr int64_t words = probeblock / 8;
+  uint64_t flags[words];
+  memcpy(flags, passed, sizeof flags);
+  for (int64_t w = 0; w < words; w++) {
+    int64_t word = last ? words - 1 - w : w;
+    if ((flags[word] & highbits) == 0) continue;
+    for (int64_t k = 0; k < 8; k++) {
+      int64_t i = word * 8 + (last ? 7 - k : k);
+      if (passed[i / 16][i % 16] >= 0x80 && matchesall(p, starts + i)) return i;
+    }
+  }
+  return -1;
+}
+
+// Skips whole blocks of places in `bytes`, none of which passes both probes, from the front or,
+// with `last`, from the back. Gives the number of blocks skipped; `place` is where a match starts
+// in the next one, counted from its first place, or -1.
+static int64_t skipblocks(const Pattern& p, const uint8_t* bytes, int64_t blocks, bool last,
+                          int64_t& place) {
+  const WideProbe first = widen(p.probe[0]);
+  const WideProbe second = widen(p.probe[1]);
+  for (int64_t n = 0; n < blocks; n++) {
+    const uint8_t* starts = bytes + (last ? blocks - 1 - n : n) * probeblock;
+    Bytes passed[vectors];
+    Bytes any = {};
+    for (int64_t v = 0; v < vectors; v++) {
+      const uint8_t* at = starts + v * static_cast<int64_t>(sizeof(Bytes));
+      passed[v] = probed(first, at) & probed(second, at);
+      any |= passed[v];
+    }
+    uint64_t halves[2];
+    memcpy(halves, &any, sizeof halves);
+    if (((halves[0] | halves[1]) & highbits) == 0) continue;
+    place = pickplace(p, starts, passed, last);
+    if (place >= 0) return n;
+  }
+  place = -1;
+  return blocks;
 }
 
 // The end of the first match, or the last, that starts among the `count` places from `start` on;
 // -1 if there is none. All of the last one's bytes must lie in the text.
 static int64_t walkblock(reader& r, const Pattern& p, int64_t start, int64_t count, bool last) {
+  const uint64_t hit = uint64_t{1} << p.length;
   int64_t stop = start + count + p.length - 1;
   int64_t found = -1;
   uint64_t state = 1;
-  for (int64_t i = start; i < stop && readto(r, i);) {
-    int64_t end = std::min(stop, r.start + r.length);
-    const uint8_t* bytes = r.bytes - r.start;
-    for (; i < end; i++) {
-      state = patternstep(p, state, bytes[i]);
-      if (!patternhit(p, state)) continue;
-      found = i + 1;
+  for (int64_t i = start; i < stop && readto(r, i); i = r.start + r.length) {
+    const uint8_t* from = r.bytes + (i - r.start);
+    const uint8_t* end = r.bytes + std::min(stop - r.start, r.length);
+    for (const uint8_t* at = from; at < end; at++) {
+      state = patternstep(p, state, *at);
+      if ((state & hit) == 0) continue;
+      found = i + (at - from) + 1;
       if (!last) return found;
     }
   }
   return found;
 }
 
+// The places [from, to) where a match can start and that are still to be looked at, from the front
+// or from the back.
+struct Places {
+  int64_t from;
+  int64_t to;
+  bool last;
+};
+
+static void drop(Places& places, int64_t count) {
+  places.last ? places.to -= count : places.from += count;
+}
+
+// Leaps over what the probes rule out, as far as the present stretch of the text goes. Gives the
+// start of a match, or -1.
+static int64_t leap(reader& r, const Pattern& p, Places& places) {
+  if (!readto(r, places.last ? places.to + p.length - 2 : places.from)) return -1;
+  int64_t low = std::max(places.from, r.start);
+  int64_t high = std::min(places.to, r.start + r.length - p.length - probeblock);
+  if (places.last ? high < places.to : low > places.from) return -1;
+  int64_t blocks = std::max<int64_t>(0, high - low) / probeblock;
+  int64_t base = places.last ? high - blocks * probeblock : low;
+  int64_t place = -1;
+  int64_t skipped = skipblocks(p, r.bytes + (base - r.start), blocks, places.last, place);
+  if (place < 0) {
+    drop(places, skipped * probeblock);
+    return -1;
+  }
+  return base + (places.last ? blocks - 1 - skipped : skipped) * probeblock + place;
+}
+
 // The end of the first match that ends in [low, high], or of the last.
 static int64_t matchwithin(reader& r, const Pattern& p, int64_t low, int64_t high, bool last) {
-  int64_t from = std::max<int64_t>(0, low - p.length);  // the starts are [from, to)
-  int64_t to = high - p.length + 1;
-  int64_t block = p.probes == 0 ? plainblock : probeblock;
-  while (from < to) {
-    int64_t count = std::min(block, to - from);
-    int64_t start = last ? to - count : from;
-    if (maymatch(r, p, start, count)) {
-      int64_t found = walkblock(r, p, start, count, last);
-      if (found >= 0) return found;
-    }
-    last ? to -= count : from += count;
+  Places places = {std::max<int64_t>(0, low - p.length), high - p.length + 1, last};
+  while (places.from < places.to) {
+    int64_t start = p.probed ? leap(r, p, places) : -1;
+    if (start >= 0) return start + p.length;
+    int64_t count = std::min(p.probed ? probeblock : plainblock, places.to - places.from);
+    int64_t found = walkblock(r, p, last ? places.to - count : places.from, count, last);
+    if (found >= 0) return found;
+    drop(places, count);
   }
   return -1;
 }

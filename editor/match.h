@@ -20,12 +20,13 @@ inline constexpr int64_t patternlimit = 63;  // bytes; with the empty prefix the
 // Whether one pattern byte matches a byte of a text.
 bool charmatch(uint8_t p, uint8_t b);
 
-// Tests one position of a pattern on many bytes at once: byte b may match there only if
-// (b & mask) == value for one of the pairs.
+// Tests one position of a pattern on many bytes at once: byte b can match there only if
+// (b & masks[i]) == values[i] for one of the two pairs, or if it is 128 or more. That lets through
+// more than match, but little of it stands in texts.
 struct Probe {
   int64_t offset;  // of the position in the pattern
-  uint8_t masks[3];
-  uint8_t values[3];
+  uint8_t masks[2];
+  uint8_t values[2];
 };
 
 // A pattern made ready. Bit n of the state of a match says that the last n bytes read match the
@@ -33,8 +34,8 @@ struct Probe {
 struct Pattern {
   int64_t length;       // 1 to patternlimit
   uint64_t masks[256];  // bit i + 1: the byte matches at position i; bit 0 always
-  int32_t probes;       // 0 if no position is worth a probe, else 2
-  Probe probe[2];       // the most telling positions
+  bool probed;          // the probes are set
+  Probe probe[2];       // of the two positions that tell most, or twice of the only one
 };
 
 // The text must not be empty and no longer than the limit.

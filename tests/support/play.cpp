@@ -85,6 +85,7 @@ void dosize(Play& p, std::string rest) {
 
 void dohome(Play& p, std::string rest) { p.launch.home = rest == "none" ? "" : rest; }
 void docwd(Play& p, std::string rest) { p.launch.directory = pathof(p, rest); }
+void doloose(Play& p, std::string) { p.launch.loose = true; }
 void dooldbackspace(Play& p, std::string) { p.launch.oldbackspace = true; }
 
 void dofile(Play& p, std::string rest) {
@@ -314,6 +315,7 @@ const Word words[] = {
     {"size", prepare, dosize},
     {"home", prepare, dohome},
     {"cwd", prepare, docwd},
+    {"loose", prepare, doloose},
     {"oldbackspace", prepare, dooldbackspace},
     {"file", prepare, dofile},
     {"dir", prepare, dodir},

@@ -48,6 +48,12 @@ winsize windowsize(int columns, int rows) {
   return size;
 }
 
+// The terminal as the three descriptors, but not as the one that controls the session.
+bool takeloose(int terminal) {
+  return setsid() >= 0 && dup2(terminal, 0) == 0 && dup2(terminal, 1) == 1 &&
+         dup2(terminal, 2) == 2;
+}
+
 [[noreturn]] void become(const Launch& launch) {
   if (launch.home.empty()) unsetenv("HOME");
   else setenv("HOME", launch.home.c_str(), 1);
@@ -115,7 +121,7 @@ Session::Session(const Launch& launch)
   fcntl(master, F_SETFD, FD_CLOEXEC);
   pid = fork();
   if (pid == 0) {
-    if (login_tty(slave) != 0) _exit(125);
+    if (!(launch.loose ? takeloose(slave) : login_tty(slave) == 0)) _exit(125);
     become(launch);
   }
   fcntl(slave, F_SETFD, FD_CLOEXEC);

@@ -20,6 +20,7 @@ struct Launch {
   std::string directory;          // where it starts; "" for here
   std::string home;               // $HOME; "" for none
   int width = 80, height = 24;
+  bool loose = false;         // the terminal is not its session's: no signals come from it
   bool oldbackspace = false;      // a terminal whose Backspace sends byte 8 instead of 127
 };
 
