@@ -263,6 +263,20 @@ void shardinsertat(shard*& root, shard* s, int64_t within, shard* fresh) {
   attachbeside(root, s, &shard::right, fresh);
 }
 
+int32_t shardgrow(shard* s, uint8_t* room, uint8_t byte) {
+  int64_t n = shardlength(s);
+  if (shardisrun(s) && s->bytes + n != room) return 0;
+  int32_t used = 0;
+  if (!shardisrun(s)) {
+    room[used++] = s->byte;
+    s->bytes = room;
+    s->word |= 1u << 31;
+  }
+  room[used++] = byte;
+  setlength(s, n + 1);
+  return used;
+}
+
 void shardremove(shard*& root, int64_t i, int64_t n) {
   check(i >= 0 && n >= 0 && n <= shardtotal(root) - i);
   while (n > 0) {

@@ -1,6 +1,6 @@
 // The tree of pieces that a text is made of: a red-black tree with parent links whose in-order
 // position is the order of the text. A piece, a shard, is a run of bytes that stand elsewhere, or
-// holds one byte itself. No byte is ever moved: an edit adds, cuts and removes shards.
+// holds one byte itself. An edit adds, cuts and removes shards; bytes typed in a row become a run.
 //
 //   "a file" as read, with "X" typed at offset 2:       single 'X'
 //                                                      /          \       .
@@ -70,6 +70,11 @@ void shardinsert(shard*& root, int64_t i, shard* fresh);
 
 // The same, `within` bytes into the shard s of the tree, 0 to its length: without a search.
 void shardinsertat(shard*& root, shard* s, int64_t within, shard* fresh);
+
+// Lets the shard s of the tree take one byte more at its end: a run that ends at `room` goes on there,
+// and a single moves to `room` with the byte behind it. Gives how many bytes of `room` are used now;
+// 0, and nothing has changed, for a run that ends elsewhere.
+int32_t shardgrow(shard* s, uint8_t* room, uint8_t byte);
 
 // Removes n bytes from offset i on; all of them must be there.
 void shardremove(shard*& root, int64_t i, int64_t n);

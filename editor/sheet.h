@@ -26,7 +26,8 @@
 
 namespace tarn {
 
-// A text that runs of the tree point into, beside `saved`: a large insertion is one run over it.
+// A text that runs of the tree point into, beside `saved`: a large insertion is one run over it, and
+// bytes typed in a row fill the room of a block.
 struct kepttext {
   Str text;
   kepttext* next;
@@ -46,7 +47,9 @@ struct sheet {
   kepttext* kept = nullptr;
   shard* hand = nullptr;   // the shard put in last, where reading starts; null after other changes
   int32_t handstart = 0;   // its offset
-  bool lowdiffers = false; // the byte at difflow is known not to be that of `saved`
+  bool lowdiffers = false;  // the byte at difflow is known not to be that of `saved`
+  uint8_t* room = nullptr;  // the unused rest of the newest block for typed bytes
+  int32_t roomleft = 0;     // its length
   Str saved;               // the text as read or last saved; never written to
 };
 

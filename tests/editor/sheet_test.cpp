@@ -115,13 +115,46 @@ TEST(Sheet, ReplacingStepsOverAndStopsAtTheEnd) {
   EXPECT_EQ(page.s.point, 2);
 }
 
-TEST(Sheet, AShortTextGoesInAsSinglesALongOneAsARunOverItself) {
+TEST(Sheet, BytesTypedInARowAreOneRun) {
+  Page page("ab");
+  page.go(1);
+  page.type("x");
+  EXPECT_FALSE(shardisrun(page.s.root));
+  page.type("yz");
+  ASSERT_TRUE(shardisrun(page.s.root));
+  EXPECT_EQ(shardlength(page.s.root), 3);
+  EXPECT_EQ(page.text(), "axyzb");
+  // Not behind a byte taken out, in front of one, or behind a run of the file.
+  deletecount(page.s, 0);
+  page.go(3);
+  deletebyte(page.s);
+  page.type("Z");
+  EXPECT_EQ(page.text(), "axyZb");
+  page.go(1);
+  page.type("1");
+  EXPECT_EQ(page.text(), "a1xyZb");
+  page.go(6);
+  page.type("2");
+  EXPECT_EQ(page.text(), "a1xyZb2");
+  checkshards(page.s.root);
+  checkbounds(page.s);
+}
+
+TEST(Sheet, TypingFillsBlockAfterBlock) {
+  Page page("");
+  std::string all;
+  for (int i = 0; i < 20000; i++) all += static_cast<char>('a' + i % 26);
+  page.type(all);
+  EXPECT_EQ(page.text(), all);
+  checkshards(page.s.root);
+}
+
+TEST(Sheet, ALongTextGoesInAsARunOverItself) {
   Page page("ab");
   page.go(1);
   insertstring(page.s, Str("xyz"));
   EXPECT_EQ(page.text(), "axyzb");
   EXPECT_EQ(page.s.point, 4);
-  EXPECT_EQ(page.s.kept, nullptr);
   Str text = strof(std::string(256, 'q'));
   insertstring(page.s, text);
   EXPECT_EQ(page.text(), "axyz" + std::string(256, 'q') + "b");
