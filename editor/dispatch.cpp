@@ -103,19 +103,28 @@ static void runrow(const KeyRow& row) {
   runplain(row.command);
 }
 
+// The command of an arrow, by the final byte of its control sequence; null for any other.
+static void (*arrowcommand(uint8_t last))() {
+  switch (last) {
+    case 'A': return tarndocp;
+    case 'B': return tarndocn;
+    case 'C': return tarndocf;
+    case 'D': return tarndocb;
+    default: return nullptr;
+  }
+}
+
 // ESC "[" and what follows: an arrow, or nothing that means something here.
 static void runsequence() {
   uint8_t last = line.at(line.len() - 1);
-  // On purpose: keys whose last byte ends no sequence stay pending, until a letter comes.
-  if (last >= 0x20 && (last < 0x40 || last > 0x7E)) return;
-  killchain = true;
-  switch (last) {
-    case 'A': return runplain(tarndocp);
-    case 'B': return runplain(tarndocn);
-    case 'C': return runplain(tarndocf);
-    case 'D': return runplain(tarndocb);
-    default: line = Str();
+  void (*command)() = arrowcommand(last);
+  if (command != nullptr) {
+    killchain = true;
+    return runplain(command);
   }
+  painted = true;
+  // On purpose: keys whose last byte ends no sequence stay pending, until a letter comes.
+  if (last < 0x20 || (last >= 0x40 && last <= 0x7E)) line = Str();
 }
 
 // The keys that no row has: control sequences, the typed bytes, and what means nothing.

@@ -10,14 +10,13 @@
 namespace tarn {
 namespace {
 
-// "ab\ncd" and "ef\n" as runs with "X" and a newline typed between: ab\ncdX\nef\n
+// "ab\ncd" and "ef\n" as runs with "X" and a newline typed between, backwards: ab\ncdX\nef\n
 struct Pieces {
   sheet s = sheetnew(Str("ab\ncdef\n"));
   Pieces() {
     s.point = 5;
-    insertbyte(s, 'X');
-    s.point = 6;
     insertbyte(s, '\n');
+    insertbyte(s, 'X');
   }
   ~Pieces() { sheetdrop(s); }
   Pieces(const Pieces&) = delete;
