@@ -90,7 +90,7 @@ static void entertabs() {
   widest = 0;
   for (const auto& [name, s] : sheets) {
     entries.push_back(reversedname(name));
-    widest = std::max(widest, name.len());
+    widest = std::max(widest, entries.back().len());
   }
   std::sort(entries.begin(), entries.end());
   selected = 0;

@@ -87,13 +87,14 @@ static int32_t sequencelength(const uint8_t* bytes, int32_t n) {
 
 // The length of a key at the front that means nothing and is dropped, or 0. But for the function keys
 // of a bare console, "ESC [ [" and a letter, it must have come in one read, so that a typed Escape
-// is a key of its own.
+// is a key of its own. A function key behind a typed Escape goes with it.
 static int32_t droppedlength(const TermKeys& t) {
   const uint8_t* bytes = t.bytes + t.start;
   int32_t n = t.end - t.start;
   if (n < 3) return 0;
   if (bytes[1] == '[') return bytes[2] == '[' ? sequencelength(bytes, n) : 0;
-  if (t.start < t.fresh) return 0;
+  if (t.start < t.fresh && bytes[1] != esc) return 0;
+  if (t.start + 1 < t.fresh) return 0;
   if (bytes[1] == 'O') return isfinal(bytes[2]) ? 3 : 0;
   if (bytes[1] != esc) return 0;
   if (bytes[2] == 'O') return n > 3 && isfinal(bytes[3]) ? 4 : 0;

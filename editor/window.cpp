@@ -104,7 +104,8 @@ int64_t windowbottom(sheet& s) {
   reader r = readsheet(s);
   while (walkrow(r, size(s))) {
   }
-  return static_cast<int64_t>(rows.starts.size()) == height ? rows.starts.back() : size(s) + 1;
+  int64_t known = static_cast<int64_t>(rows.starts.size());
+  return known == height ? rows.starts.back() : size(s) + (height - known);
 }
 
 int64_t nextrow(sheet& s, int64_t start) {

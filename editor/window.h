@@ -21,8 +21,9 @@ void recentre(sheet& s);
 // Moves `top` back to the start of its row, after the text before it or the width has changed.
 void aligntop(sheet& s);
 
-// The offset behind the last shown row: the start of the row below the window. Larger than the size
-// when the text ends within the window.
+// The offset behind the last shown row: the start of the row below the window. Each row behind the end
+// of the text counts as one byte, so that it is larger than the size when the text ends within the
+// window, and the middle between it and `top` is the middle of the window.
 int64_t windowbottom(sheet& s);
 
 // The start of the row that holds offset i, 0 to size inclusive.

@@ -109,8 +109,15 @@ TEST(Termkeys, AltArrowsOfOneReadAreDropped) {
   EXPECT_EQ(keys({"\x1B\x1B[A"}), "");
   EXPECT_EQ(keys({"\x1B\x1B[1;3Dx"}), "x|");
   EXPECT_EQ(keys({"\x1B\x1BOA"}), "");
-  EXPECT_EQ(keys({"\x1B", "\x1B[A"}), "\x1B\x1B|[|A|");
   EXPECT_EQ(keys({"\x1B\x1B[1", "A"}), "\x1B\x1B|[|1|A|");
+}
+
+// Escape and then an arrow are no key together, and the arrow must not type its letter.
+TEST(Termkeys, AFunctionKeyBehindATypedEscapeIsDroppedWithIt) {
+  EXPECT_EQ(keys({"\x1B", "\x1B[A"}), "");
+  EXPECT_EQ(keys({"\x1B", "\x1B[5~x"}), "x|");
+  EXPECT_EQ(keys({"\x1B", "\x1BOAx"}), "x|");
+  EXPECT_EQ(keys({"\x1B", "\x1B", "[A"}), "\x1B\x1B|[|A|");  // typed
 }
 
 TEST(Termkeys, ABackspaceOf8ChangesPlacesWithDelete) {
