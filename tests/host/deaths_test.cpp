@@ -62,6 +62,12 @@ TEST_F(Deaths, TheWalkToTheLastItemStopsAtTheFirstByte) {
   EXPECT_EQ(shown("$([a[b]]-2)"), Str("()"));
 }
 
+// Of a program that drops it while it runs; what is left when it is over does not run.
+TEST_F(Deaths, AFinaliserThatAsserts) {
+  EXPECT_FAILS(shown("foo H,foo\\a\\K(1)(todo assert a)"), "host/systemcalls.cpp");
+  EXPECT_EQ(shown("foo K,foo\\a\\K(1)(todo assert a)"), Str("1"));
+}
+
 // The results of malloc are used as they are.
 TEST_F(Deaths, BeyondAllMemory) {
   EXPECT_DEATH(shown("[a]*(2^50)"), "");
