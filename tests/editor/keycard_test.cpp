@@ -1,0 +1,40 @@
+// The card of keys against the key table: every key of the table is on it, and no other.
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <set>
+#include <sstream>
+#include <string>
+
+#include "editor/dispatch.h"
+
+namespace tarn {
+namespace {
+
+// The plain keys that the first column of its tables names, as the key table writes them; those of
+// prompts, which come last, are not among them.
+std::set<std::string> cardkeys() {
+  std::ifstream file(KEYCARD);
+  std::set<std::string> keys;
+  for (std::string row; std::getline(file, row) && row != "## In every prompt";) {
+    if (row.rfind("| ", 0) != 0) continue;
+    std::string cell = row.substr(2, row.find(" |", 2) - 2);
+    for (char& c : cell) c = c == ',' || c == ';' ? '\n' : c;
+    std::istringstream names(cell);
+    for (std::string name; std::getline(names, name);) {
+      name.erase(0, name.find_first_not_of(' '));
+      if (name == "C-\\\\") name = "C-\\";
+      if (name.rfind("C-", 0) == 0 || name.rfind("ESC ", 0) == 0 || name == "TAB") keys.insert(name);
+    }
+  }
+  return keys;
+}
+
+TEST(KeyCard, HoldsTheKeyTable) {
+  std::set<std::string> table;
+  for (int64_t row = 0; row < keyrows; row++) table.insert(keytable[row].name);
+  EXPECT_EQ(cardkeys(), table);
+}
+
+}  // namespace
+}  // namespace tarn
