@@ -104,6 +104,19 @@ void doremove(Play& p, std::string rest) {
   if (std::filesystem::remove_all(pathof(p, rest), error) == 0) p.fault = "cannot remove " + rest;
 }
 
+void dohole(Play& p, std::string rest) {
+  std::string path = pathof(p, nextword(rest));
+  std::ofstream(path).close();
+  std::error_code error;
+  std::filesystem::resize_file(path, std::stoull(rest), error);
+  if (error) p.fault = "cannot make " + path;
+}
+
+void dolink(Play& p, std::string rest) {
+  std::string path = pathof(p, nextword(rest));
+  if (symlink(rest.c_str(), path.c_str()) != 0) p.fault = "cannot link " + path;
+}
+
 // ---- What is done
 
 void settle(Play& p) {
@@ -319,6 +332,8 @@ const Word words[] = {
     {"oldbackspace", prepare, dooldbackspace},
     {"file", prepare, dofile},
     {"dir", prepare, dodir},
+    {"hole", prepare, dohole},
+    {"link", prepare, dolink},
     {"remove", prepare, doremove},
     {"start", prepare, dostart},
     {"show", demand, doshow},
