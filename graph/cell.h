@@ -268,7 +268,7 @@ inline void setleafdefinition(Cell* c, Definition* d) {
 struct CellCounts {
   int64_t made;
   int64_t alive;
-  int64_t peak;  // most alive at once
+  int64_t peak;  // most short ones alive at once, and most long leaves alive at once, added up
 };
 CellCounts cellcounts();
 

@@ -13,13 +13,16 @@ constexpr int64_t BLOCK = 4096 * RECORD;
 
 #ifdef __SANITIZE_ADDRESS__
 
+static int64_t inuse = 0;
+
 void* storefresh() {
-  cellstore.room++;
+  inuse++;
+  if (inuse > cellstore.room) cellstore.room = inuse;
   return malloc(RECORD);
 }
 
 void storegiveback(void* r) {
-  cellstore.room--;
+  inuse--;
   free(r);
 }
 

@@ -19,7 +19,7 @@ struct CellStore {
   void** free;     // records given back, each holding the address of the next; null: none
   int64_t made;    // cells ever made
   int64_t freed;   // cells ever freed
-  int64_t room;    // records that the blocks hold, less those never used: most in use at once
+  int64_t room;    // records ever taken from the blocks: as many as were in use at once
   int64_t longs;   // long leaves alive
   int64_t longest; // most long leaves alive at once
   int64_t todos;   // leaves alive with the text "todo": while there is none, nobody looks for them
