@@ -17,7 +17,6 @@ void replaceall(std::string& text, const std::string& old, const std::string& wi
     text.replace(at, old.size(), with);
 }
 
-// The names that a scenario can use for what differs from run to run.
 std::string filled(const Play& p, std::string text) {
   replaceall(text, "{dir}", p.directory);
   replaceall(text, "{base}", p.directory.substr(p.directory.rfind('/') + 1));

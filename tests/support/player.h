@@ -14,20 +14,21 @@ namespace tarn {
 
 struct Play {
   const Scenario& scenario;
-  std::string program;
+  std::string program;    // an absolute path
   Pace pace;
-  std::string directory;             // where the files of the scenario are
-  Launch launch = {};
-  std::unique_ptr<Session> session = nullptr;  // null before start
+  std::string directory;  // where the files of the scenario are
+  Launch launch = {};     // how the next `start` starts
+  std::unique_ptr<Session> session = nullptr;  // null before the first
   StrictOutput strict = {};
-  size_t checked = 0;        // bytes of output that the strict reader has had
-  size_t sentbefore = 0;     // bytes of output before the present step
-  int bellsbefore = 0;       // bells before it
-  bool bellstold = false;    // the step says how many bells it rings
-  bool lasting = true;       // the program is not expected to be gone
-  std::string fault = "";
+  size_t checked = 0;      // bytes of output that the strict reader has had
+  size_t sentbefore = 0;   // bytes of output before the present step
+  int bellsbefore = 0;     // bells before it
+  bool bellstold = false;  // the step says how many bells it rings
+  bool lasting = true;     // the program is not expected to be gone
+  std::string fault = "";  // what went wrong, "" while all is well
 };
 
+// Preparing and demanding can stand anywhere; an act begins a step.
 enum Sort { prepare, act, demand };
 
 struct Word {
