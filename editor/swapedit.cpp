@@ -16,102 +16,102 @@
 
 namespace tarn {
 
-static std::string_view viewof(const Str& s) {
-  return {s.text(), static_cast<size_t>(s.len())};
-}
+using View = std::string_view;
 
-static int64_t occurrences(const Str& text, const Str& old) {
+static View viewof(const Str& s) { return {s.text(), static_cast<size_t>(s.len())}; }
+
+static int64_t occurrences(View text, View old) {
   int64_t count = 0;
-  size_t i = viewof(text).find(viewof(old));
-  while (i != std::string_view::npos) {
-    count++;
-    i = viewof(text).find(viewof(old), i + viewof(old).size());
-  }
+  for (size_t i = text.find(old); i != View::npos; i = text.find(old, i + old.size())) count++;
   return count;
 }
 
-static uint8_t* putbytes(uint8_t* out, const uint8_t* from, size_t n) {
-  if (n != 0) memcpy(out, from, n);
-  return out + n;
+static uint8_t* putbytes(uint8_t* out, View from) {
+  if (!from.empty()) memcpy(out, from.data(), from.size());
+  return out + from.size();
 }
 
-static Str replaced(const Str& text, const Str& old, const Str& fresh) {
-  int64_t growth = occurrences(text, old) * (fresh.len() - old.len());
-  if (text.len() + growth == 0) return Str();
-  Str made = strsized(text.len() + growth);
-  uint8_t* out = made.own();
+static void putreplaced(uint8_t* out, View text, View old, View fresh) {
   size_t from = 0;
-  for (;;) {
-    size_t i = viewof(text).find(viewof(old), from);
-    if (i == std::string_view::npos) break;
-    out = putbytes(out, text.bytes() + from, i - from);
-    out = putbytes(out, fresh.bytes(), static_cast<size_t>(fresh.len()));
-    from = i + static_cast<size_t>(old.len());
+  for (size_t i; (i = text.find(old, from)) != View::npos; from = i + old.size()) {
+    out = putbytes(out, text.substr(from, i - from));
+    out = putbytes(out, fresh);
   }
-  putbytes(out, text.bytes() + from, static_cast<size_t>(text.len()) - from);
-  return made;
+  putbytes(out, text.substr(from));
 }
 
+// The parts of an oper's data. The texts lie in the data, so that a large one is not held twice.
 struct SwapData {
   int64_t end;
   int64_t endafter;
-  Str old;
-  Str fresh;
-  Str before;
+  View old;
+  View fresh;
+  View before;
 };
 
 static Str number(int64_t n) { return str4(static_cast<uint32_t>(n)); }
 
-static Str packswap(const SwapData& d) {
-  return number(d.end) + number(d.endafter) + number(d.old.len()) + d.old + number(d.fresh.len()) +
-         d.fresh + d.before;
+static Str packswap(int64_t end, int64_t endafter, const Str& old, const Str& fresh,
+                    const Str& before) {
+  return number(end) + number(endafter) + number(old.len()) + old + number(fresh.len()) + fresh +
+         before;
 }
 
 static int64_t numberat(const Str& data, int64_t i) { return word4(data.substr(i, 4)); }
 
 static SwapData unpackswap(const Str& data) {
   check(data.len() >= 16);
-  SwapData d = {numberat(data, 0), numberat(data, 4), Str(), Str(), Str()};
-  int64_t oldlength = numberat(data, 8);
-  d.old = data.substr(12, oldlength);
-  int64_t freshlength = numberat(data, 12 + oldlength);
-  d.fresh = data.substr(16 + oldlength, freshlength);
-  d.before = data.substr(16 + oldlength + freshlength);
-  return d;
+  View all = viewof(data);
+  size_t oldlength = static_cast<size_t>(numberat(data, 8));
+  check(16 + oldlength <= all.size());
+  size_t freshlength = static_cast<size_t>(numberat(data, 12 + static_cast<int64_t>(oldlength)));
+  check(16 + oldlength + freshlength <= all.size());
+  return {numberat(data, 0), numberat(data, 4), all.substr(12, oldlength),
+          all.substr(16 + oldlength, freshlength), all.substr(16 + oldlength + freshlength)};
+}
+
+// The data of a replacement; empty if it has no place, or the text would grow too long.
+static Str swapdata(int64_t from, int64_t to, const Str& old, const Str& fresh) {
+  const sheet& s = currentsheet();
+  Str before = stretch(s, from, to);
+  int64_t count = occurrences(viewof(before), viewof(old));
+  int64_t growth = count * (fresh.len() - old.len());
+  if (count == 0 || !fits(s, growth)) return Str();
+  return packswap(to, to + growth, old, fresh, before);
 }
 
 bool opreplace(int64_t from, int64_t to, const Str& old, const Str& fresh) {
-  const sheet& s = currentsheet();
   if (old.empty()) return false;
-  Str before = stretch(s, from, to);
-  int64_t count = occurrences(before, old);
-  int64_t growth = count * (fresh.len() - old.len());
-  if (count == 0 || !fits(s, growth)) return false;
-  return carry(opswapped, from, packswap({to, to + growth, old, fresh, before}));
+  Str data = swapdata(from, to, old, fresh);
+  return !data.empty() && carry(opswapped, from, data);
 }
 
-// Puts `middle` in the place of the bytes from `from` to `to`; the point stays at its offset.
-static void splice(sheet& s, int64_t from, int64_t to, const Str& middle) {
-  int64_t n = size(s) - (to - from) + middle.len();
-  Str text = strsized(n);
-  if (n != 0) {
-    uint8_t* out = text.own();
-    copybytes(s, 0, from, out);
-    putbytes(out + from, middle.bytes(), static_cast<size_t>(middle.len()));
-    copybytes(s, to, size(s), out + from + middle.len());
-  }
+// The text with n bytes, not yet set, in the place of those from `from` to `to`.
+static Str gapped(const sheet& s, int64_t from, int64_t to, int64_t n) {
+  int64_t behind = size(s) - to;
+  if (from + n + behind == 0) return Str();
+  Str text = strsized(from + n + behind);
+  copybytes(s, 0, from, text.own());
+  copybytes(s, to, size(s), text.own() + from + n);
+  return text;
+}
+
+// Both keep the point at its offset.
+
+void todoswapped(sheet& s, const oper& o) {
+  SwapData d = unpackswap(o.data);
+  Str text = gapped(s, opert(o), d.end, d.endafter - opert(o));
+  putreplaced(text.own() + opert(o), d.before, d.old, d.fresh);
   retext(s, text);
   showpoint(s);
 }
 
-void todoswapped(sheet& s, const oper& o) {
-  SwapData d = unpackswap(o.data);
-  splice(s, opert(o), d.end, replaced(d.before, d.old, d.fresh));
-}
-
 void undoswapped(sheet& s, const oper& o) {
   SwapData d = unpackswap(o.data);
-  splice(s, opert(o), d.endafter, d.before);
+  Str text = gapped(s, opert(o), d.endafter, static_cast<int64_t>(d.before.size()));
+  putbytes(text.own() + opert(o), d.before);
+  retext(s, text);
+  showpoint(s);
 }
 
 }  // namespace tarn
