@@ -64,7 +64,7 @@ constexpr KeyRow keytable[] = {
 };
 constexpr int64_t keyrows = sizeof keytable / sizeof keytable[0];
 
-// The row of a key by its last byte, -1 for none: no two rows share a key, so that one look decides.
+// The row of a key by its last byte, -1 for none: no two rows share a key, so one look decides.
 using RowIndex = std::array<int8_t, 256>;
 
 static constexpr RowIndex indexrows(uint8_t length) {

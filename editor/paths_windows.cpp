@@ -1,5 +1,5 @@
-// What the file system of Windows says of paths. Paths have forward slashes and no drive letter: they
-// mean the process's current drive.
+// What the file system of Windows says of paths. Paths have forward slashes and no drive letter:
+// they mean the process's current drive.
 #include <direct.h>
 #include <sys/stat.h>
 

@@ -132,8 +132,8 @@ static void makeroom(sheet& s) {
   keep(s, block);
 }
 
-// Puts a byte behind the one typed just before: they need no shard each, and a text typed in a row is
-// read as fast as one from a file.
+// Puts a byte behind the one typed just before: they need no shard each, and a text typed in a row
+// is read as fast as one from a file.
 static bool typebehind(sheet& s, uint8_t byte) {
   if (s.hand == nullptr || s.point != s.handstart + shardlength(s.hand)) return false;
   if (s.roomleft < 2) makeroom(s);
