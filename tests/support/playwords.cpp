@@ -55,6 +55,7 @@ void dohome(Play& p, std::string rest) { p.launch.home = rest == "none" ? "" : r
 void docwd(Play& p, std::string rest) { p.launch.directory = pathof(p, rest); }
 void doloose(Play& p, std::string) { p.launch.loose = true; }
 void dooldbackspace(Play& p, std::string) { p.launch.oldbackspace = true; }
+void dooddmodes(Play& p, std::string) { p.launch.oddmodes = true; }
 
 void dofile(Play& p, std::string rest) {
   std::string path = pathof(p, nextword(rest));
@@ -261,6 +262,7 @@ const Word words[] = {
     {"cwd", prepare, docwd},
     {"loose", prepare, doloose},
     {"oldbackspace", prepare, dooldbackspace},
+    {"oddmodes", prepare, dooddmodes},
     {"file", prepare, dofile},
     {"dir", prepare, dodir},
     {"hole", prepare, dohole},

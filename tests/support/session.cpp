@@ -41,6 +41,15 @@ termios shellmodes(bool oldbackspace) {
   return modes;
 }
 
+// Modes that swallow, change and strip keys, end nothing, and read without waiting.
+void makeodd(termios& modes) {
+  modes.c_iflag = INLCR | IGNCR | ISTRIP | PARMRK | IXON;
+  modes.c_lflag &= ~static_cast<tcflag_t>(ISIG | ICANON);
+  modes.c_cc[VINTR] = _POSIX_VDISABLE;
+  modes.c_cc[VMIN] = 0;
+  modes.c_cc[VTIME] = 1;
+}
+
 winsize windowsize(int columns, int rows) {
   winsize size = {};
   size.ws_col = static_cast<unsigned short>(columns);
@@ -113,6 +122,7 @@ Doing doingof(pid_t pid) {
 Session::Session(const Launch& launch)
     : terminal(launch.width, launch.height), oldbackspace(launch.oldbackspace) {
   termios modes = shellmodes(launch.oldbackspace);
+  if (launch.oddmodes) makeodd(modes);
   winsize size = windowsize(launch.width, launch.height);
   if (openpty(&master, &slave, nullptr, &modes, &size) != 0) {
     perror("openpty");

@@ -22,6 +22,7 @@ struct Launch {
   int width = 80, height = 24;
   bool loose = false;         // the terminal is not its session's: no signals come from it
   bool oldbackspace = false;      // a terminal whose Backspace sends byte 8 instead of 127
+  bool oddmodes = false;          // a terminal left in modes that no shell would leave it in
 };
 
 struct Session {
