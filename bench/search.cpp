@@ -1,7 +1,7 @@
-// searchbench TARN: a file of 100 MB, a million lines. How long until a text that stands only at its
-// end is found, until a word has been replaced in every line, until that is undone, and until the
-// text is saved; beside other editors, and beside what the memory itself takes for as much. Behind
-// each time stands the most memory held till then, as a multiple of the file.
+// searchbench TARN: a file of 100 MB, a million lines. How long until a text that stands only at
+// its end is found, until a word has been replaced in every line, until that is undone, and until
+// the text is saved; beside other editors, and beside what the memory itself takes for as much.
+// Behind each time stands the most memory held till then, as a multiple of the file.
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -37,7 +37,8 @@ std::string maketext() {
   return text;
 }
 
-// What an editor is asked to do: each job is the keys that lead up to it and the one that starts it.
+// What an editor is asked to do: each job is the keys that lead up to it and the one that starts
+// it.
 struct Job {
   std::string before;
   std::string start;

@@ -28,7 +28,9 @@ struct Directory : testing::Test {
     std::vector<DirectoryEntry> found;
     if (!readdirectory(strof(path), found)) return "none";
     std::vector<std::string> names;
-    for (const DirectoryEntry& e : found) names.push_back(textof(e.name) + (e.isdirectory ? "/" : ""));
+    for (const DirectoryEntry& e : found) {
+      names.push_back(textof(e.name) + (e.isdirectory ? "/" : ""));
+    }
     std::sort(names.begin(), names.end());
     std::string all;
     for (const std::string& name : names) all += name + " ";

@@ -24,7 +24,8 @@ std::set<std::string> cardkeys() {
     for (std::string name; std::getline(names, name);) {
       name.erase(0, name.find_first_not_of(' '));
       if (name == "C-\\\\") name = "C-\\";
-      if (name.rfind("C-", 0) == 0 || name.rfind("ESC ", 0) == 0 || name == "TAB") keys.insert(name);
+      bool plain = name.rfind("C-", 0) == 0 || name.rfind("ESC ", 0) == 0 || name == "TAB";
+      if (plain) keys.insert(name);
     }
   }
   return keys;
