@@ -11,8 +11,8 @@ namespace tarn {
 // below 0 or above that is a program fault.
 Str placename(int64_t n);
 
-// -1 for any field that placename writes and for any that is not five bytes long, so that no message
-// ever moves the cursor. Five bytes of which the first is no digit are a program fault.
+// -1 for any field that placename writes and for any that is not five bytes long, so that no
+// message ever moves the cursor. Five bytes of which the first is no digit are a program fault.
 // On purpose: the test for a digit stands the other way round, and is kept so.
 int64_t placevalue(const Str& field);
 

@@ -88,8 +88,8 @@ static References references() {
   return found;
 }
 
-// Walks from the main expression, always on to the smallest name waiting. Of several definitions that
-// refer to a name the latest is told.
+// Walks from the main expression, always on to the smallest name waiting. Of several definitions
+// that refer to a name the latest is told.
 Report checkreferences(const References& uses, const char* what) {
   std::map<Str, Str> waiting = {{"", "nowhere"}};  // to the name that referred
   std::set<Str> done;

@@ -12,16 +12,16 @@
 
 namespace tarn {
 
-// Checks the definitions and evaluates the main expression, the value of "_" if that is defined. The
-// value takes the place of the main expression; a fault, static or raised, goes into the report,
-// which comes in sound. Failure values such as Z are values.
+// Checks the definitions and evaluates the main expression, the value of "_" if that is defined.
+// The value takes the place of the main expression; a fault, static or raised, goes into the
+// report, which comes in sound. Failure values such as Z are values.
 void runcheck(Report& report);
 
 // The main expression, or its value; none at all is a program fault.
 CellRef maindefinition();
 
-// Ends a run: erases all definitions and forgets all that was kept of their terms. No finaliser runs:
-// that is for what a program drops, not for what is left when it is over.
+// Ends a run: erases all definitions and forgets all that was kept of their terms. No finaliser
+// runs: that is for what a program drops, not for what is left when it is over.
 void cleardefs();
 
 // The value that raises a report, `] text`: as the answer of a builtin it ends the whole run.

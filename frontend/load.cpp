@@ -29,8 +29,8 @@ struct Loading {
 
 Report refusebinder(const Item& item) {
   if (item.key != "\\" && item.key != "{") return {};
-  return {"Built in function " + item.key + " cannot be re-defined.", "built", placename(item.place),
-          shortname(item.key), ""};
+  return {"Built in function " + item.key + " cannot be re-defined.", "built",
+          placename(item.place), shortname(item.key), ""};
 }
 
 Report read(const Str& text, Loading& loading) {

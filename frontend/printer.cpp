@@ -77,7 +77,8 @@ void printleaf(std::string& out, Cell* leaf) {
       printcray(out, leaf);
       break;
     default:
-      out.append(reinterpret_cast<const char*>(leafbytes(leaf)), static_cast<size_t>(cellsize(leaf)));
+      out.append(reinterpret_cast<const char*>(leafbytes(leaf)),
+                 static_cast<size_t>(cellsize(leaf)));
   }
 }
 

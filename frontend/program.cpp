@@ -104,8 +104,8 @@ void loadprelude() {
   for (const auto& [name, definition] : globaldefs()) preludecopy()[name] = definition->term;
 }
 
-// Each builtin is defined as so many abstractions over Z, which give the name its arity. The body is
-// never entered.
+// Each builtin is defined as so many abstractions over Z, which give the name its arity. The body
+// is never entered.
 static void definebuiltins() {
   constexpr uint32_t most = 7;
   CellRef stubs[most + 1] = {leafbyte('Z')};
@@ -125,7 +125,8 @@ static void definebuiltins() {
 Report refuseletter(const Item& item, int64_t base) {
   Report report;
   if (!isvariable(item.key)) return report;
-  report.message = "Single lowercase letters (" + item.key + ") cannot be defined as global variables.";
+  report.message =
+      "Single lowercase letters (" + item.key + ") cannot be defined as global variables.";
   report.word = "lower";
   report.place = placename(base + item.place);
   report.name = shortname(item.key);

@@ -1,6 +1,6 @@
-// The table of shared terms. Terms are told apart by a hash of their whole structure, which the pass
-// works out on its way up, and then by the order of terms; since the links of what is looked up are
-// shared already, that comparison hardly ever goes deeper than one level.
+// The table of shared terms. Terms are told apart by a hash of their whole structure, which the
+// pass works out on its way up, and then by the order of terms; since the links of what is looked
+// up are shared already, that comparison hardly ever goes deeper than one level.
 #include "frontend/share.h"
 
 #include <string_view>

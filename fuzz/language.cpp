@@ -96,15 +96,16 @@ void fuzzprogram(const std::string& text) {
 // --- Making programs -----------------------------------------------------------------------------
 
 static constexpr std::string_view atoms[] = {
-    "a",   "b",   "c",    "x",    "foo",  "bar",  "zap",  "total", "0",    "1",    "2",    "10",
-    "01",  "007", "A",    "B",    "C",    "D",    "E",    "F",     "G",    "H",    "I",    "J",
-    "K",   "L",   "M",    "N",    "O",    "P",    "Q",    "R",     "S",    "T",    "U",    "V",
-    "W",   "X",   "Y",    "Z",    "[ab]", "[]",   "[[]]", "[+]",   "look", "cork", "rank", "cray",
-    "lots", "lits", "load", "road", "todo", "type", "[1,foo\\2]", "[foo]", "[a[p]b]", "cape", "tern",
+    "a",    "b",    "c",    "x",    "foo",  "bar",  "zap",         "total", "0",       "1",
+    "2",    "10",   "01",   "007",  "A",    "B",    "C",           "D",     "E",       "F",
+    "G",    "H",    "I",    "J",    "K",    "L",    "M",           "N",     "O",       "P",
+    "Q",    "R",    "S",    "T",    "U",    "V",    "W",           "X",     "Y",       "Z",
+    "[ab]", "[]",   "[[]]", "[+]",  "look", "cork", "rank",        "cray",  "lots",    "lits",
+    "load", "road", "todo", "type", "cape", "tern", "[1,foo\\2]", "[foo]", "[a[p]b]",
 };
 static constexpr std::string_view operators[] = {
-    "+", "-", "*", "/", "<", ">", "=", "#", "?", ";", "&", "|", "@", ".", ":", " ", " ", "", "", "!",
-    "~", "$", "`", "\"", "'", "^", "%",
+    "+", "-", "*", "/", "<", ">", "=", "#", "?", ";",  "&", "|", "@", ".",
+    ":", " ", " ", "",  "",  "!", "~", "$", "`", "\"", "'", "^", "%",
 };
 
 static std::string_view one(uint64_t n, const std::string_view* from, size_t count) {
@@ -143,7 +144,9 @@ static void spoil(std::string& text, uint64_t (*next)()) {
 }
 
 std::string fuzztext(uint64_t (*next)()) {
-  static constexpr std::string_view keys[] = {"foo", "bar", "zap", "foo()", "K", "[+]", "T", "Z", "a"};
+  static constexpr std::string_view keys[] = {
+      "foo", "bar", "zap", "foo()", "K", "[+]", "T", "Z", "a",
+  };
   std::string text = expression(next, static_cast<int>(next() % 6));
   for (uint64_t n = next() % 4; n-- > 0;) {
     text += "," + std::string(one(next(), keys, std::size(keys))) + "\\";

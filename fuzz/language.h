@@ -11,9 +11,9 @@ namespace tarn {
 // the others.
 void fuzzinstall();
 
-// Takes the text through brackets, tidying, parsing, checks and an evaluation of some thousand steps.
-// A crash is for the sanitizers to tell; a cell that is lost, a tidy text that is not tidy, and a
-// report without words end the process here.
+// Takes the text through brackets, tidying, parsing, checks and an evaluation of some thousand
+// steps. A crash is for the sanitizers to tell; a cell that is lost, a tidy text that is not tidy,
+// and a report without words end the process here.
 void fuzzprogram(const std::string& text);
 
 // A program out of the numbers that `next` gives: tokens of the language for the most part in an

@@ -1,5 +1,5 @@
-// languagestorm: throws made-up programs at the language, without end or as many as it is told, from
-// a seed, so that a run can be repeated.
+// languagestorm: throws made-up programs at the language, without end or as many as it is told,
+// from a seed, so that a run can be repeated.
 //
 //   languagestorm [programs [seed]]
 //   languagestorm file ...             the files instead, as they are

@@ -12,11 +12,12 @@ namespace tarn {
 namespace {
 
 TEST(Alphabet, DigitsHaveTheirValues) {
-  const std::map<char, int> values = {{'_', 0},  {'a', 1},  {'r', 18}, {'u', 19}, {'s', 20}, {'t', 21},
-                                      {'v', 22}, {'w', 23}, {'z', 24}, {'x', 25}, {'y', 26}, {'0', 27},
-                                      {'9', 36}, {'A', 37}, {'R', 54}, {'U', 55}, {'S', 56}, {'T', 57},
-                                      {'V', 58}, {'W', 59}, {'Z', 60}, {'X', 61}, {'Y', 62}, {'~', 63}};
-  for (auto [digit, value] : values) EXPECT_EQ(digitvalue(static_cast<uint8_t>(digit)), value) << digit;
+  const std::map<char, int> values = {
+      {'_', 0},  {'a', 1},  {'r', 18}, {'u', 19}, {'s', 20}, {'t', 21}, {'v', 22}, {'w', 23},
+      {'z', 24}, {'x', 25}, {'y', 26}, {'0', 27}, {'9', 36}, {'A', 37}, {'R', 54}, {'U', 55},
+      {'S', 56}, {'T', 57}, {'V', 58}, {'W', 59}, {'Z', 60}, {'X', 61}, {'Y', 62}, {'~', 63}};
+  for (auto [digit, value] : values)
+    EXPECT_EQ(digitvalue(static_cast<uint8_t>(digit)), value) << digit;
   EXPECT_FAILS(digitvalue('!'), "foundation/alphabet");
   EXPECT_FAILS(digitvalue(0), "foundation/alphabet");
   EXPECT_FAILS(digitvalue(200), "foundation/alphabet");
@@ -78,7 +79,7 @@ TEST(Alphabet, ListOfBytes) {
   std::set<uint8_t> all(bytelist.begin(), bytelist.end());
   EXPECT_EQ(all.size(), 256u);
   for (size_t i = 0; i < 10; i++) EXPECT_EQ(bytelist[i], 151 + i);
-  const int after[] = {1,  2,  3,  4,  5,  6,  7,  8,  9,  0,  11, 12, 13, 14,
+  const int after[] = {1,  2,  3,  4,  5,  6,  7,  8,  9,  0,  11, 12, 13,  14,
                        15, 16, 17, 18, 21, 19, 20, 22, 23, 26, 24, 25, 127, 128};
   for (size_t i = 0; i < std::size(after); i++) EXPECT_EQ(bytelist[10 + i], after[i]) << i;
   EXPECT_EQ(bytelist[51], 142);
@@ -104,25 +105,27 @@ void expectascending(const std::vector<Str>& names) {
 }
 
 TEST(NameOrder, WordsRunInTheOddAlphabet) {
-  expectascending({"_", "_a", "a", "a_", "aa", "ab", "q", "r", "u", "s", "t", "v", "w", "z", "x", "y", "ya"});
+  expectascending(
+      {"_", "_a", "a", "a_", "aa", "ab", "q", "r", "u", "s", "t", "v", "w", "z", "x", "y", "ya"});
 }
 
 TEST(NameOrder, ClassesRunWordsCapitalsOthersSymbols) {
-  expectascending({"zoo", "A", "R", "U", "S", "T", "V", "W", "Z", "X", "Y", "\x01", "{", "}", ",", "~", "!",
-                   "@", "?"});
+  expectascending({"zoo", "A", "R", "U", "S", "T", "V", "W", "Z", "X", "Y", "\x01", "{", "}", ",",
+                   "~", "!", "@", "?"});
 }
 
 TEST(NameOrder, ControlAndHighBytes) {
-  // "0".."8" name 151..159; "A" names 1, "J" 0, "," 10; then "~" 127, "!" 128; last "[" 31, "]" 255;
-  // then the bytes 160 and up by the character 128 below, 160 itself by "9".
-  expectascending({"\x97", "\x9f", "\x01", "\x09", "\x0b", "\x15", "\x13", "\x7f", "\x80", "\x1b", "\n", "\x1f",
-                   "\xff", "\xdf", "\xe1", "\xb0", "\xa0", "\xc1", "\xfe", "\xa1", "\xac", "\xdb", "\xdd"});
+  // "0".."8" name 151..159; "A" names 1, "J" 0, "," 10; then "~" 127, "!" 128; last "[" 31, "]"
+  // 255; then the bytes 160 and up by the character 128 below, 160 itself by "9".
+  expectascending({"\x97", "\x9f", "\x01", "\x09", "\x0b", "\x15", "\x13", "\x7f",
+                   "\x80", "\x1b", "\n",   "\x1f", "\xff", "\xdf", "\xe1", "\xb0",
+                   "\xa0", "\xc1", "\xfe", "\xa1", "\xac", "\xdb", "\xdd"});
 }
 
 TEST(NameOrder, Byte160RanksByNine) {
-  EXPECT_TRUE(namebefore("\xa0", "\xc3"));    // "9" before "C"
+  EXPECT_TRUE(namebefore("\xa0", "\xc3"));  // "9" before "C"
   EXPECT_FALSE(namebefore("\xc3", "\xa0"));
-  EXPECT_FALSE(namebefore("\xa0", "\xb9"));   // 185 is "9" plus 128: neither is before the other
+  EXPECT_FALSE(namebefore("\xa0", "\xb9"));  // 185 is "9" plus 128: neither is before the other
   EXPECT_FALSE(namebefore("\xb9", "\xa0"));
 }
 

@@ -32,17 +32,19 @@ TEST(Chars, PrefixBytesAreAMaskAndTheTilde) {
 }
 
 TEST(Chars, GlueIsNoBracketAndNoPrefix) {
-  for (char c : std::string("(){}[]~!\"$`_aZ0\t\r")) EXPECT_FALSE(isgluebyte(static_cast<uint8_t>(c))) << c;
-  for (char c : std::string("\n #%&'*+,-./:;<=>?@\\^|")) EXPECT_TRUE(isgluebyte(static_cast<uint8_t>(c))) << c;
+  for (char c : std::string("(){}[]~!\"$`_aZ0\t\r"))
+    EXPECT_FALSE(isgluebyte(static_cast<uint8_t>(c))) << c;
+  for (char c : std::string("\n #%&'*+,-./:;<=>?@\\^|"))
+    EXPECT_TRUE(isgluebyte(static_cast<uint8_t>(c))) << c;
 }
 
 TEST(Chars, DefinableNames) {
-  for (const char* text : {"a", "_", "foo", "a_b", "A", "Z", "\x01", "\n", "\t", "\x1f", "\x7f", "\x80",
-                           "\xff", "[+]", "[{]", "[,]", "[}]", "[\\]", "[`]"}) {
+  for (const char* text : {"a", "_", "foo", "a_b", "A", "Z", "\x01", "\n", "\t", "\x1f", "\x7f",
+                           "\x80", "\xff", "[+]", "[{]", "[,]", "[}]", "[\\]", "[`]"}) {
     EXPECT_TRUE(isdefinable(text)) << text;
   }
-  for (const char* text : {"", "x2", "2", "+", "AB", "aB", " ", "(", "[", "]", "[]", "[a]", "[ab]", "[++]",
-                           "[[]", "[A]", "[+", "+]+"}) {
+  for (const char* text : {"", "x2", "2", "+", "AB", "aB", " ", "(", "[", "]", "[]", "[a]", "[ab]",
+                           "[++]", "[[]", "[A]", "[+", "+]+"}) {
     EXPECT_FALSE(isdefinable(text)) << text;
   }
   EXPECT_FALSE(isdefinable(strbyte(0)));
@@ -57,7 +59,8 @@ TEST(Chars, DefinedNamesLoseTheirBrackets) {
 }
 
 TEST(Chars, NamesHaveTheirSymbolBare) {
-  for (const char* text : {"a", "_", "foo", "A", "\n", "\x7f", "\xa0", "+", "{", "}", ",", "\\", "`", "?"}) {
+  for (const char* text :
+       {"a", "_", "foo", "A", "\n", "\x7f", "\xa0", "+", "{", "}", ",", "\\", "`", "?"}) {
     EXPECT_TRUE(isname(text)) << text;
   }
   for (const char* text : {"", "[+]", "[]", "1", "01", "AB", "a1", "+-", " ", "(", ")", "[", "]"}) {

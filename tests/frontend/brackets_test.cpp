@@ -39,9 +39,9 @@ TEST(BracketCheck, TheInnermostOpenBracketIsTold) {
 }
 
 TEST(BracketCheck, SoundTexts) {
-  for (const char* text : {"", "[(]", "[{)]", "f(a,b,c)", "{a,b}", "a,b", "g(x)(a,b)", "[ab](a,b)", "!(a,b)",
-                           "((a,b))", "x{1}(a,b)", "{(a,b)}", "~(a,b)", "f(a,{b,c})", "f(g(a,b),c)", "[a,b]",
-                           "([a,b])", "(x)", "1,f(2,3)"}) {
+  for (const char* text : {"", "[(]", "[{)]", "f(a,b,c)", "{a,b}", "a,b", "g(x)(a,b)", "[ab](a,b)",
+                           "!(a,b)", "((a,b))", "x{1}(a,b)", "{(a,b)}", "~(a,b)", "f(a,{b,c})",
+                           "f(g(a,b),c)", "[a,b]", "([a,b])", "(x)", "1,f(2,3)"}) {
     EXPECT_EQ(told(text), "") << text;
   }
 }
@@ -53,7 +53,8 @@ TEST(BracketCheck, CommasWantACallList) {
   EXPECT_EQ(told("f\n(a,b)"), "Comma at [____d] is not part of a valid call list.");
   EXPECT_EQ(told("(a,b,c)"), "Comma at [____b] is not part of a valid call list.");  // the leftmost
   EXPECT_EQ(told("x,(f(1,2),b)"), "Comma at [____i] is not part of a valid call list.");
-  EXPECT_EQ(told("(a,b)+(c,d)"), "Comma at [____h] is not part of a valid call list.");  // from the right
+  EXPECT_EQ(told("(a,b)+(c,d)"),
+            "Comma at [____h] is not part of a valid call list.");       // from the right
   EXPECT_EQ(told("(a,b)+)"), "Dangling right-parenthesis at [____f].");  // nesting comes first
 }
 

@@ -42,8 +42,8 @@ struct ChecksTest : testing::Test {
 
 TEST_F(ChecksTest, Funky) {
   expectreport("1+2\\3", {"Funky key in expression (\\ (+1 2) 3).", "funky", "", "(\\ (+1 2) 3)"});
-  expectreport("foo,tests\\1\\2", {"Funky key in expression (\\1 2) in function tests.", "funky", "tests \"",
-                                 "(\\1 2)"});
+  expectreport("foo,tests\\1\\2", {"Funky key in expression (\\1 2) in function tests.", "funky",
+                                   "tests \"", "(\\1 2)"});
 }
 
 TEST_F(ChecksTest, FunkyShowsTheWholeTermAndNamesItShortly) {
@@ -57,8 +57,8 @@ TEST_F(ChecksTest, FunkyShowsTheWholeTermAndNamesItShortly) {
 
 TEST_F(ChecksTest, Alive) {
   expectreport("foo", {"Alive function TOP references undefined foo.", "alive", "TOP", "foo"});
-  expectreport("tests,tests\\wrong", {"Alive function tests references undefined wrong.", "alive", "tests \"",
-                                    "wrong \""});
+  expectreport("tests,tests\\wrong", {"Alive function tests references undefined wrong.", "alive",
+                                      "tests \"", "wrong \""});
 }
 
 TEST_F(ChecksTest, Place) {
@@ -66,11 +66,13 @@ TEST_F(ChecksTest, Place) {
   for (char c = 'a'; c <= 'z'; c++) text += std::string(1, c) + "{1}";
   EXPECT_TRUE(checked((text + "a").c_str()).sound());
   expectreport((text + "foo{1}a").c_str(), {"Place error.", "place", "", ""});
-  expectreport(("1,bar\\" + text + "foo{1}a").c_str(), {"Place error in function bar.", "place", "bar", ""});
+  expectreport(("1,bar\\" + text + "foo{1}a").c_str(),
+               {"Place error in function bar.", "place", "bar", ""});
 }
 
 TEST_F(ChecksTest, Arity) {
-  expectreport("a\\b\\c\\d\\e\\f\\g\\h\\i\\j\\k\\a", {"Arity of function  may not exceed ten.", "arity", "", ""});
+  expectreport("a\\b\\c\\d\\e\\f\\g\\h\\i\\j\\k\\a",
+               {"Arity of function  may not exceed ten.", "arity", "", ""});
   expectreport("1,foo\\a\\b\\c\\d\\e\\f\\g\\h\\i\\j\\k\\a",
                {"Arity of function foo may not exceed ten.", "arity", "foo", ""});
   EXPECT_TRUE(checked("a\\b\\c\\d\\e\\f\\g\\h\\i\\j\\a").sound());
@@ -78,7 +80,8 @@ TEST_F(ChecksTest, Arity) {
 
 TEST_F(ChecksTest, Unbound) {
   expectreport("(foo\\foo)foo,foo\\3", {"Local variable a unbound.", "local", "", ""});
-  expectreport("1,foo\\(bar\\bar)bar,bar\\3", {"Local variable a unbound in function foo.", "local", "foo", ""});
+  expectreport("1,foo\\(bar\\bar)bar,bar\\3",
+               {"Local variable a unbound in function foo.", "local", "foo", ""});
 }
 
 TEST_F(ChecksTest, LongNamesGetTheFirstFreeLettersInOrder) {
@@ -123,7 +126,8 @@ TEST_F(ChecksTest, EqualTermsOfTwoDefinitionsAreOneCell) {
 
 TEST_F(ChecksTest, EverythingIsAnnotated) {
   EXPECT_TRUE(checked("1,foo\\x\\x").sound());
-  for (const auto& [name, definition] : globaldefs()) EXPECT_TRUE(cellannotated(definition->term)) << name.text();
+  for (const auto& [name, definition] : globaldefs())
+    EXPECT_TRUE(cellannotated(definition->term)) << name.text();
 }
 
 TEST_F(ChecksTest, ManyDefinitionsAreOrdinary) {
@@ -133,8 +137,10 @@ TEST_F(ChecksTest, ManyDefinitionsAreOrdinary) {
     std::string next = name;
     size_t at = next.size() - 1;
     while (next[at] == 'z') next[at--] = 'a';
-    if (next[at] == '_') next.insert(at + 1, 1, 'a');
-    else next[at]++;
+    if (next[at] == '_')
+      next.insert(at + 1, 1, 'a');
+    else
+      next[at]++;
     text += "," + name + "\\" + next;
     name = next;
   }

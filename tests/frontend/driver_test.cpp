@@ -87,8 +87,8 @@ TEST_F(DriverTest, EvaluationShowsValueOrMessage) {
 TEST_F(DriverTest, NothingIsLeftOfARun) {
   evaluate("1", 0);
   int64_t before = cellcounts().alive;
-  for (const char* text : {"1+2", ")", "foo", "1,plus\\2", "1\\2", "foo,foo\\foo", "raise 1", "(foo\\foo)foo,foo\\1",
-                           "foo,foo()\\K 1,bar\\foo", "a\\`1"}) {
+  for (const char* text : {"1+2", ")", "foo", "1,plus\\2", "1\\2", "foo,foo\\foo", "raise 1",
+                           "(foo\\foo)foo,foo\\1", "foo,foo()\\K 1,bar\\foo", "a\\`1"}) {
     evaluate(text, 0);
     EXPECT_EQ(cellcounts().alive, before) << text;
     EXPECT_TRUE(globaldefs().empty() && alivenames().empty() && preludecopy().empty()) << text;

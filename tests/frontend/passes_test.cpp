@@ -34,7 +34,8 @@ TEST(PatternPass, WorksAtEveryDepth) {
 }
 
 TEST(PatternPass, LeavesAllElse) {
-  for (const char* text : {"x", "f x", "\\ (x y) b", "{ x 1 b", "{ (1 x) 1 b", "{ (x y z) 1 b", "{ (x (y z)) 1 b"}) {
+  for (const char* text :
+       {"x", "f x", "\\ (x y) b", "{ x 1 b", "{ (1 x) 1 b", "{ (x y z) 1 b", "{ (x (y z)) 1 b"}) {
     CellRef t = term(text);
     EXPECT_EQ(static_cast<Cell*>(patternpass(t)), static_cast<Cell*>(t)) << text;
   }

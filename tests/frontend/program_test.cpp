@@ -110,7 +110,8 @@ TEST_F(ProgramTest, OtherItemsArePassedOver) {
 
 TEST_F(ProgramTest, OneSmallLetterCannotBeDefined) {
   Report report = readprogram("1, foo\\1 , a\\2,bar\\3", 100);
-  EXPECT_EQ(report.message, Str("Single lowercase letters (a) cannot be defined as global variables."));
+  EXPECT_EQ(report.message,
+            Str("Single lowercase letters (a) cannot be defined as global variables."));
   EXPECT_EQ(report.word, Str("lower"));
   EXPECT_EQ(report.place, Str("___aH"));  // 100 + 8 in the tidied text 1,foo\1,a\2
   EXPECT_EQ(report.name, Str("a"));

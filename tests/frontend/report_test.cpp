@@ -38,15 +38,17 @@ TEST(Report, TextAndBack) {
 }
 
 TEST(Report, AMessageMayHoldLoneBrackets) {
-  for (const char* message : {"'(' at [_____] doesn't fit ']' at [____a].", "]", "[[", "][", "a[b]c"}) {
+  for (const char* message :
+       {"'(' at [_____] doesn't fit ']' at [____a].", "]", "[[", "][", "a[b]c"}) {
     Report report = {message, "match", "_____", "____a", "yes"};
     expectfields(reportparse(reporttext(report)), {message, "match", "_____", "____a", "yes"});
   }
 }
 
 TEST(Report, AnyOtherTextIsTheMessage) {
-  for (const char* text : {"", "1", "[a]", "]", "[[[[]]]]", "['[\"a][\"b][\"c]]", "['[\"a][\"b][\"c][\"d]x[\"e]]",
-                           "['][\"b][\"c][\"d][\"e]]", "['[\"a][\"b][\"c][][\"e]]"}) {
+  for (const char* text :
+       {"", "1", "[a]", "]", "[[[[]]]]", "['[\"a][\"b][\"c]]", "['[\"a][\"b][\"c][\"d]x[\"e]]",
+        "['][\"b][\"c][\"d][\"e]]", "['[\"a][\"b][\"c][][\"e]]"}) {
     Report report = reportparse(text);
     EXPECT_EQ(report.message, Str(text));
     EXPECT_EQ(report.word, Str("raise"));

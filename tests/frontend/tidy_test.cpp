@@ -38,12 +38,11 @@ TEST(Tidy, Texts) {
 }
 
 TEST(Tidy, ATidyTextStaysAsItIs) {
-  for (const char* text : {"f (x)", "x ! y", "a,b\\c", "[ a ]"}) EXPECT_EQ(tidytext(text), Str(text));
+  for (const char* text : {"f (x)", "x ! y", "a,b\\c", "[ a ]"})
+    EXPECT_EQ(tidytext(text), Str(text));
 }
 
-TEST(Tidy, NulsAreKept) {
-  EXPECT_EQ(tidytext(Str("a \0 b", 5)), Str("a \0 b", 5));
-}
+TEST(Tidy, NulsAreKept) { EXPECT_EQ(tidytext(Str("a \0 b", 5)), Str("a \0 b", 5)); }
 
 }  // namespace
 }  // namespace tarn

@@ -22,7 +22,8 @@ TEST(TypeTable, PaddingHasNoName) {
   const TypeField fields[] = {{"d_ino", 4, 0},     {"d_off", 4, 4},   {"d_reclen", 2, 8},
                               {"d_namlen", 8, 16}, {"d_type", 4, 24}, {"d_name", 261, 28}};
   EXPECT_EQ(typetext({"dirent", 296, fields, 6}),
-            Str("[dirent[d_ino[4]][d_off[4]][d_reclen[2]][[6]][d_namlen[8]][d_type[4]][d_name[261]][[7]]]"));
+            Str("[dirent[d_ino[4]][d_off[4]][d_reclen[2]][[6]][d_namlen[8]][d_type[4]][d_name[261]]"
+                "[[7]]]"));
   const TypeField late[] = {{"x", 1, 2}};
   EXPECT_EQ(typetext({"late", 3, late, 1}), Str("[late[[2]][x[1]]]"));
 }

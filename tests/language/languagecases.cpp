@@ -131,8 +131,8 @@ bool runcase(const Case& c) {
   if (leaks) leakcheck(true);
   int64_t after = leaks ? before : cellcounts().alive;
   if (shown == c.wanted && before == after) return true;
-  printf("%s: %s\n  wanted %s\n  shown  %s\n", c.where.c_str(), c.program.c_str(),
-         c.wanted.c_str(), shown.c_str());
+  printf("%s: %s\n  wanted %s\n  shown  %s\n", c.where.c_str(), c.program.c_str(), c.wanted.c_str(),
+         shown.c_str());
   if (before != after) printf("  cells  %+lld\n", static_cast<long long>(after - before));
   return false;
 }
