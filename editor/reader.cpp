@@ -28,49 +28,122 @@ bool readto(reader& r, int64_t i) {
   return true;
 }
 
+// ---- The stretches that are known to hold no newline: the longest that searches have met.
+
+struct Plain {
+  const uint8_t* from;
+  const uint8_t* to;
+};
+static Plain plains[4] = {};
+
+static constexpr int64_t worthnoting = 65536;
+
+void forgetplains() {
+  for (Plain& p : plains) p = {nullptr, nullptr};
+}
+
+// Notes that there is none from `from` to `to`: with a stretch that it meets, or for the shortest.
+static void noteplain(const uint8_t* from, const uint8_t* to) {
+  Plain* shortest = plains;
+  for (Plain& p : plains) {
+    if (from <= p.to && to >= p.from) {
+      p = {from < p.from ? from : p.from, to > p.to ? to : p.to};
+      return;
+    }
+    if (p.to - p.from < shortest->to - shortest->from) shortest = &p;
+  }
+  if (to - from > shortest->to - shortest->from) *shortest = {from, to};
+}
+
+// The first newline from `from` on, or `to`.
+static const uint8_t* firstin(const uint8_t* from, const uint8_t* to) {
+  const uint8_t* p = from;
+  for (const Plain& known : plains) {
+    if (p >= known.from && p < known.to) p = known.to < to ? known.to : to;
+  }
+  const void* found = p == to ? nullptr : memchr(p, 10, static_cast<size_t>(to - p));
+  const uint8_t* at = found != nullptr ? static_cast<const uint8_t*>(found) : to;
+  if (at - p >= worthnoting) noteplain(from, at);
+  return at;
+}
+
+constexpr uint64_t everybyte = 0x0101010101010101;
+
+// The eight bytes at p, each newline among them made zero.
+static uint64_t newlineszero(const uint8_t* p) {
+  uint64_t word = 0;
+  memcpy(&word, p, 8);
+  return word ^ everybyte * 10;
+}
+
+// The place behind the last newline before `to`, or `from`. Whole words first, as no C library call
+// searches backwards everywhere.
+static const uint8_t* behindlastin(const uint8_t* from, const uint8_t* to) {
+  const uint8_t* p = to;
+  for (const Plain& known : plains) {
+    if (p > known.from && p <= known.to) p = known.from > from ? known.from : from;
+  }
+  const uint8_t* searched = p;
+  while (p - from >= 8) {
+    uint64_t word = newlineszero(p - 8);
+    if (((word - everybyte) & ~word & everybyte << 7) != 0) break;  // a byte is zero
+    p -= 8;
+  }
+  while (p > from && p[-1] != 10) p--;
+  if (searched - p >= worthnoting) noteplain(p, to);
+  return p;
+}
+
+// ---- The searches.
+
 int64_t newlinefrom(reader& r, int64_t i, int64_t end) {
   while (i < end && readto(r, i)) {
     int64_t stop = r.start + r.length < end ? r.start + r.length : end;
-    const uint8_t* from = r.bytes + (i - r.start);
-    const void* found = memchr(from, 10, static_cast<size_t>(stop - i));
-    if (found != nullptr) return i + (static_cast<const uint8_t*>(found) - from);
+    int64_t found = r.start + (firstin(r.bytes + (i - r.start), r.bytes + (stop - r.start)) - r.bytes);
+    if (found < stop) return found;
     i = stop;
   }
   return end;
-}
-
-// The last newline among n bytes, or null: whole words first, as no C library call searches
-// backwards everywhere.
-static const uint8_t* lastnewline(const uint8_t* bytes, int64_t n) {
-  constexpr uint64_t ones = 0x0101010101010101;
-  while (n >= 8) {
-    uint64_t word = 0;
-    memcpy(&word, bytes + n - 8, 8);
-    word ^= ones * 10;
-    if (((word - ones) & ~word & (ones << 7)) != 0) break;  // a byte of the eight is zero now
-    n -= 8;
-  }
-  while (n > 0 && bytes[n - 1] != 10) n--;
-  return n > 0 ? bytes + n - 1 : nullptr;
 }
 
 int64_t newlinebefore(reader& r, int64_t i, int64_t start) {
   while (i > start && readto(r, i - 1)) {
     int64_t from = r.start > start ? r.start : start;
     const uint8_t* bytes = r.bytes + (from - r.start);
-    const uint8_t* found = lastnewline(bytes, i - from);
-    if (found != nullptr) return from + (found - bytes);
+    int64_t behind = from + (behindlastin(bytes, bytes + (i - from)) - bytes);
+    if (behind > from) return behind - 1;
     i = from;
   }
   return start - 1;
+}
+
+// The sum of the eight bytes of a word.
+static int64_t bytesum(uint64_t word) {
+  constexpr uint64_t pairs = 0x00FF00FF00FF00FF;
+  return static_cast<int64_t>(((word & pairs) + (word >> 8 & pairs)) * 0x0001000100010001 >> 48);
+}
+
+// The newlines among n bytes: eight at once, each counted in a byte of its own.
+static int64_t newlinesin(const uint8_t* bytes, int64_t n) {
+  constexpr uint64_t low7 = everybyte * 0x7F;
+  int64_t count = 0;
+  while (n >= 8) {
+    uint64_t counts = 0;
+    for (int32_t k = 0; k < 255 && n >= 8; k++, bytes += 8, n -= 8) {
+      uint64_t word = newlineszero(bytes);
+      counts += ~(((word & low7) + low7) | word | low7) >> 7;
+    }
+    count += bytesum(counts);
+  }
+  for (; n > 0; bytes++, n--) count += *bytes == 10;
+  return count;
 }
 
 int64_t newlinecount(reader& r, int64_t from, int64_t to) {
   int64_t count = 0;
   while (from < to && readto(r, from)) {
     int64_t stop = r.start + r.length < to ? r.start + r.length : to;
-    const uint8_t* bytes = r.bytes + (from - r.start);
-    for (int64_t k = 0; k < stop - from; k++) count += bytes[k] == 10;
+    count += newlinesin(r.bytes + (from - r.start), stop - from);
     from = stop;
   }
   return count;

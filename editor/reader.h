@@ -35,6 +35,10 @@ inline uint8_t readbyte(reader& r, int64_t i) {
   return readto(r, i) ? r.bytes[i - r.start] : 10;
 }
 
+// Searches for newlines remember the longest stretches of memory that had none, so that a key in a
+// very long line need not walk it each time. Call this before bytes that runs point into are freed.
+void forgetplains();
+
 // The first newline at or behind i that lies before `end`, else `end`, which is at most the size.
 int64_t newlinefrom(reader& r, int64_t i, int64_t end);
 

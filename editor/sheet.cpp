@@ -33,6 +33,7 @@ static void keep(sheet& s, const Str& text) { s.kept = new kepttext{text, s.kept
 
 // Frees the tree and what it points into but `saved`.
 static void droptree(sheet& s) {
+  forgetplains();
   shardfree(s.root);
   s.root = s.hand = nullptr;
   while (s.kept != nullptr) {

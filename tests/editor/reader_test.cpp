@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 
 #include "tests/editor/buffer.h"
@@ -100,6 +101,45 @@ TEST(Reader, FindsANewlineAtEveryPlaceOfALongRun) {
     }
     sheetdrop(s);
   }
+}
+
+// What a search remembers must not be wrong after an edit in the stretch, or in another text.
+TEST(Reader, VeryLongLinesAreSearchedRightAgainAndAgain) {
+  sheet s = sheetnew(strof(std::string(300000, 'a') + "\n" + std::string(300000, 'b')));
+  for (int round = 0; round < 2; round++) {
+    EXPECT_EQ(linestart(s, 200000), 0);
+    EXPECT_EQ(lineend(s, 100000), 300000);
+    EXPECT_EQ(linestart(s, 600001), 300001);
+    EXPECT_EQ(lineend(s, 300001), 600001);
+    EXPECT_EQ(lineend(s, 300000), 300000);
+    EXPECT_EQ(linestart(s, 300000), 0);
+  }
+  s.point = 150000;
+  insertbyte(s, '\n');
+  EXPECT_EQ(lineend(s, 10), 150000);
+  EXPECT_EQ(linestart(s, 290000), 150001);
+  EXPECT_EQ(lineend(s, 150001), 300001);
+  retext(s, strof(std::string(100000, 'c') + "\n" + std::string(100000, 'd')));
+  EXPECT_EQ(lineend(s, 10), 100000);
+  EXPECT_EQ(linestart(s, 200001), 100001);
+  sheetdrop(s);
+  s = sheetnew(strof(std::string(70000, 'e') + "\n" + std::string(530000, 'f')));
+  EXPECT_EQ(lineend(s, 0), 70000);
+  EXPECT_EQ(linestart(s, 600000), 70001);
+  sheetdrop(s);
+}
+
+TEST(Reader, CountsNewlinesOfAnyNeighbours) {
+  std::string bytes;
+  for (int i = 0; i < 20000; i++) {
+    bytes += static_cast<char>(i * 37 % 256);
+    bytes += i % 3 == 0 ? '\n' : '\v';
+  }
+  int64_t count = std::count(bytes.begin(), bytes.end(), '\n');
+  sheet s = sheetnew(strof(bytes));
+  reader r = readsheet(s);
+  EXPECT_EQ(newlinecount(r, 0, size(s)), count);
+  sheetdrop(s);
 }
 
 TEST(Reader, CountsNewlines) {
