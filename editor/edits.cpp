@@ -34,9 +34,23 @@ static Str typeddata(char kind, uint8_t old, uint8_t fresh) {
   return Str(data, 3);
 }
 
+// The same for the two kinds that name one byte only. Each is made once: what is typed byte by byte
+// then takes little memory.
+static const Str& insertdata(uint8_t fresh) {
+  static Str known[256];
+  if (known[fresh].empty()) known[fresh] = typeddata(':', 0, fresh);
+  return known[fresh];
+}
+
+static const Str& deletedata(uint8_t old) {
+  static Str known[256];
+  if (known[old].empty()) known[old] = typeddata(',', old, 0);
+  return known[old];
+}
+
 bool opinsert(uint8_t byte) {
   sheet& s = currentsheet();
-  if (s.insertmode != 0) return fits(s, 1) && carry(optyped, s.point, typeddata(':', 0, byte));
+  if (s.insertmode != 0) return fits(s, 1) && carry(optyped, s.point, insertdata(byte));
   if (s.point == size(s)) return false;
   return carry(optyped, s.point, typeddata(';', byteat(s, s.point), byte));
 }
@@ -44,7 +58,7 @@ bool opinsert(uint8_t byte) {
 bool opbackspace() {
   sheet& s = currentsheet();
   if (s.point == 0) return false;
-  return carry(optyped, s.point - 1, typeddata(',', byteat(s, s.point - 1), 0));
+  return carry(optyped, s.point - 1, deletedata(byteat(s, s.point - 1)));
 }
 
 static void overwrite(sheet& s, uint8_t from, uint8_t to) {

@@ -7,10 +7,17 @@
 
 namespace tarn {
 
+// Where the current history was found last.
+static Str foundname;
+static std::vector<oper>* foundhistory = nullptr;
+
 static std::vector<oper>& currenthistory() {
+  if (foundhistory != nullptr && foundname.same(currentname)) return *foundhistory;
   auto found = opers.find(currentname);
   check(found != opers.end());
-  return found->second;
+  foundname = currentname;
+  foundhistory = &found->second;
+  return *foundhistory;
 }
 
 // ---- The life of a history.
@@ -23,12 +30,9 @@ sheet openrecord(const Str& name) {
 }
 
 void closefile(const Str& name) {
-  auto found = sheets.find(name);
-  if (found != sheets.end()) {
-    sheetdrop(found->second);
-    sheets.erase(found);
-  }
+  sheetclose(name);
   opers.erase(name);
+  foundhistory = nullptr;
 }
 
 bool forgetall() {

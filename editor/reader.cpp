@@ -55,12 +55,24 @@ static void noteplain(const uint8_t* from, const uint8_t* to) {
   if (to - from > shortest->to - shortest->from) *shortest = {from, to};
 }
 
+// Where a search from `from` up to `to` needs to begin, and one from `to` down to `from`.
+static const uint8_t* skipplains(const uint8_t* from, const uint8_t* to) {
+  for (const Plain& p : plains) {
+    if (from >= p.from && from < p.to) from = p.to < to ? p.to : to;
+  }
+  return from;
+}
+
+static const uint8_t* skipplainsback(const uint8_t* from, const uint8_t* to) {
+  for (const Plain& p : plains) {
+    if (to > p.from && to <= p.to) to = p.from > from ? p.from : from;
+  }
+  return to;
+}
+
 // The first newline from `from` on, or `to`.
 static const uint8_t* firstin(const uint8_t* from, const uint8_t* to) {
-  const uint8_t* p = from;
-  for (const Plain& known : plains) {
-    if (p >= known.from && p < known.to) p = known.to < to ? known.to : to;
-  }
+  const uint8_t* p = to - from < worthnoting ? from : skipplains(from, to);
   const void* found = p == to ? nullptr : memchr(p, 10, static_cast<size_t>(to - p));
   const uint8_t* at = found != nullptr ? static_cast<const uint8_t*>(found) : to;
   if (at - p >= worthnoting) noteplain(from, at);
@@ -79,10 +91,7 @@ static uint64_t newlineszero(const uint8_t* p) {
 // The place behind the last newline before `to`, or `from`. Whole words first, as no C library call
 // searches backwards everywhere.
 static const uint8_t* behindlastin(const uint8_t* from, const uint8_t* to) {
-  const uint8_t* p = to;
-  for (const Plain& known : plains) {
-    if (p > known.from && p <= known.to) p = known.from > from ? known.from : from;
-  }
+  const uint8_t* p = to - from < worthnoting ? to : skipplainsback(from, to);
   const uint8_t* searched = p;
   while (p - from >= 8) {
     uint64_t word = newlineszero(p - 8);

@@ -13,10 +13,17 @@ namespace tarn {
 // Lives to the end of the process: nothing frees the trees of open buffers on the way out.
 std::map<Str, sheet>& sheets = *new std::map<Str, sheet>;
 
+// Where the current sheet was found last: a key asks for it many times.
+static Str foundname;
+static sheet* foundsheet = nullptr;
+
 sheet& currentsheet() {
+  if (foundsheet != nullptr && foundname.same(currentname)) return *foundsheet;
   auto found = sheets.find(currentname);
   check(found != sheets.end());
-  return found->second;
+  foundname = currentname;
+  foundsheet = &found->second;
+  return *foundsheet;
 }
 
 // ---- Making and dropping.
@@ -56,6 +63,14 @@ sheet sheetnew(const Str& text) {
 void sheetdrop(sheet& s) {
   droptree(s);
   s = sheet();
+}
+
+void sheetclose(const Str& name) {
+  auto found = sheets.find(name);
+  if (found == sheets.end()) return;
+  sheetdrop(found->second);
+  sheets.erase(found);
+  foundsheet = nullptr;
 }
 
 // The tree is replaced before the old saved text goes, as its runs point into that.

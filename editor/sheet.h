@@ -65,6 +65,9 @@ sheet sheetnew(const Str& text);
 // Frees the tree and what is kept for it. Copies of the sheet must not be used any more.
 void sheetdrop(sheet& s);
 
+// Drops the sheet of that name and takes it out of `sheets`; nothing may be erased there otherwise.
+void sheetclose(const Str& name);
+
 inline int64_t size(const sheet& s) { return shardtotal(s.root); }
 
 // Whether the text equals `saved`.

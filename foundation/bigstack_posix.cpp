@@ -5,6 +5,9 @@
 #include <sys/mman.h>
 
 #include <cstddef>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 #include "foundation/bigstack.h"
 #include "foundation/diag.h"
@@ -41,9 +44,18 @@ void* reserve(size_t& size) {
   return nullptr;
 }
 
+// A thread of its own would get an allocation arena of its own, which grows by a page and a system
+// call at a time. There is only one thread at work.
+void sharearena() {
+#ifdef __GLIBC__
+  mallopt(M_ARENA_MAX, 1);
+#endif
+}
+
 }  // namespace
 
 void runonbigstack(void (*work)(void*), void* argument) {
+  sharearena();
   size_t size = 0;
   void* stack = reserve(size);
   if (stack == nullptr) return work(argument);
