@@ -11,8 +11,8 @@ namespace tarn {
 
 // A key must not walk the text. Runs over the saved text itself are passed in one step. The rest, a
 // long stretch that happens to repeat, is walked only so far, since bounds that are too wide do no
-// harm: then more bytes show as changed, out of sight. One walk alone is never cut short, the one that
-// can find the sheet clean.
+// harm: then more bytes show as changed, out of sight. One walk alone is never cut short, the one
+// that can find the sheet clean.
 static constexpr int64_t usualeffort = 65536;     // bytes compared
 static constexpr int64_t effortofshard = 16;      // a step to the next shard costs as many
 static constexpr int64_t noteffort = INT64_MAX;   // walk as far as it goes
@@ -90,8 +90,8 @@ static void setbounds(sheet& s, int64_t low, int64_t high, bool lowdiffers) {
 
 void boundsempty(sheet& s) { setbounds(s, size(s), size(s), false); }
 
-// Narrows the range from `low` to `high`, for which the first two rules of sheet.h hold. The byte at
-// `low` can be known to differ.
+// Narrows the range from `low` to `high`, for which the first two rules of sheet.h hold. The byte
+// at `low` can be known to differ.
 static void tighten(sheet& s, int64_t low, int64_t high, bool lowdiffers, int64_t effort) {
   int64_t n = size(s);
   int64_t both = smaller(s.saved.len(), n);

@@ -1,5 +1,5 @@
-// The difference bounds of a sheet, as each change leaves them (sheet.h says what they mean). Only the
-// changes of sheet.cpp call these, right after the change of the tree.
+// The difference bounds of a sheet, as each change leaves them (sheet.h says what they mean). Only
+// the changes of sheet.cpp call these, right after the change of the tree.
 #pragma once
 
 #include <cstdint>

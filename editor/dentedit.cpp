@@ -4,8 +4,8 @@
 //
 //   end of the range │ key, one byte │ the point before │ marks
 //
-// A newline for key takes a space off each line. A line of one space is then empty, so each line that
-// is empty afterwards has a mark, in order: 1 if it was made so, 0 if it was so before.
+// A newline for key takes a space off each line. A line of one space is then empty, so each line
+// that is empty afterwards has a mark, in order: 1 if it was made so, 0 if it was so before.
 #include <vector>
 
 #include "editor/edits.h"
@@ -35,8 +35,8 @@ static DentData unpackdent(const Str& data) {
   return {word4(data.substr(0, 4)), data.at(4), word4(data.substr(5, 4)), data.substr(9)};
 }
 
-// What indenting or outdenting will do: the lines that it changes, or -1 if one of them refuses, and
-// the marks of an outdent.
+// What indenting or outdenting will do: the lines that it changes, or -1 if one of them refuses,
+// and the marks of an outdent.
 struct DentPlan {
   int64_t lines;
   std::vector<uint8_t> marks;

@@ -1,7 +1,7 @@
 // What carries out the opers of each type, and what reverses them. Only edittodo and editundo
-// (history.h) call these. Each sets the point by what the oper says, wherever it stands, and keeps it
-// in the window. Reversing expects the text just as carrying out left it, and the other way round;
-// an oper whose data has a wrong form is a program fault.
+// (history.h) call these. Each sets the point by what the oper says, wherever it stands, and keeps
+// it in the window. Reversing expects the text just as carrying out left it, and the other way
+// round; an oper whose data has a wrong form is a program fault.
 #pragma once
 
 #include "editor/oper.h"
@@ -10,13 +10,13 @@
 namespace tarn {
 
 //   carried out                                  reversed                        point then stands
-void todotyped(sheet& s, const oper& o);    void undotyped(sheet& s, const oper& o);    // at or behind
-void todoran(sheet& s, const oper& o);      void undoran(sheet& s, const oper& o);      // behind | at t
-void todopasted(sheet& s, const oper& o);   void undopasted(sheet& s, const oper& o);   // behind | at t
-void todocut(sheet& s, const oper& o);      void undocut(sheet& s, const oper& o);      // at t | behind
+void todotyped(sheet& s, const oper& o);    void undotyped(sheet& s, const oper& o);  // at or behind
+void todoran(sheet& s, const oper& o);      void undoran(sheet& s, const oper& o);  // behind | at t
+void todopasted(sheet& s, const oper& o);   void undopasted(sheet& s, const oper& o);  // behind | at t
+void todocut(sheet& s, const oper& o);      void undocut(sheet& s, const oper& o);  // at t | behind
 void todoswapped(sheet& s, const oper& o);  void undoswapped(sheet& s, const oper& o);  // where it was
-void tododented(sheet& s, const oper& o);   void undodented(sheet& s, const oper& o);   // on its byte
-void todosorted(sheet& s, const oper& o);   void undosorted(sheet& s, const oper& o);   // line start | t
+void tododented(sheet& s, const oper& o);   void undodented(sheet& s, const oper& o);  // on its byte
+void todosorted(sheet& s, const oper& o);   void undosorted(sheet& s, const oper& o);  // line start | t
 
 // Enters an oper at t in the current buffer and carries it out; true.
 bool carry(opertype w, int64_t t, const Str& data);

@@ -36,8 +36,8 @@ bool opreplace(int64_t from, int64_t to, const Str& old, const Str& fresh);
 void opsort();
 
 // Puts `key` in front of every non-empty line with a byte in [from, to), or of the line that holds
-// `from` if the range is empty. With a newline for key it takes a space off the front of each; false
-// if one of them has none there. The point stays on its byte.
+// `from` if the range is empty. With a newline for key it takes a space off the front of each;
+// false if one of them has none there. The point stays on its byte.
 bool opindent(int64_t from, int64_t to, uint8_t key);
 
 // C-_: undoes one oper more. False when nothing is left to undo.

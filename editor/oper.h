@@ -9,7 +9,7 @@
 //   └────┴───────┴───────────────────────────────┴───────────────────────────────┘
 //
 //   t  a position in the text; for a marker the version pointer. The end of a full text, 2^30, does
-//      not fit and is not needed: nothing can be put in there, and what is taken out begins before it
+//      not fit and is not needed: nothing can be put in there, and what goes begins before it
 //   v  the version: 0 for the root oper of a buffer, then 1, 3, 5 ... without gaps
 //   w  the type, below
 //
@@ -27,13 +27,13 @@ namespace tarn {
 //  type        what it did                        data                                     t
 enum opertype : uint32_t {
   opmarker = 0,   // an undo, or the undo of one   empty                                    version
-  opswapped = 1,  // replaced in a range, or root  see history.cpp; empty for the root      range start
+  opswapped = 1,  // replaced in a range, or root  see swapedit.cpp; empty for root   range start
   opran = 2,      // put in a run of one byte      decimal count, then the byte             point
   opsorted = 3,   // reordered the definitions     the whole text before it                 point
   opcut = 4,      // deleted a stretch             the deleted bytes                        point
   oppasted = 5,   // put in a text                 the text                                 point
   optyped = 6,    // one byte                      a kind and two bytes, see history.cpp    point
-  opdented = 7,   // indented or outdented lines   see history.cpp                          range start
+  opdented = 7,   // indented or outdented lines   see dentedit.cpp                   range start
 };
 
 struct oper {

@@ -1,5 +1,5 @@
-// Sequential reading, and the searches for newlines on top of it: each stretch of contiguous bytes is
-// searched at once.
+// Sequential reading, and the searches for newlines on top of it: each stretch of contiguous bytes
+// is searched at once.
 #include "editor/reader.h"
 
 #include <cstring>
@@ -108,7 +108,8 @@ static const uint8_t* behindlastin(const uint8_t* from, const uint8_t* to) {
 int64_t newlinefrom(reader& r, int64_t i, int64_t end) {
   while (i < end && readto(r, i)) {
     int64_t stop = r.start + r.length < end ? r.start + r.length : end;
-    int64_t found = r.start + (firstin(r.bytes + (i - r.start), r.bytes + (stop - r.start)) - r.bytes);
+    const uint8_t* from = r.bytes + (i - r.start);
+    int64_t found = i + (firstin(from, from + (stop - i)) - from);
     if (found < stop) return found;
     i = stop;
   }

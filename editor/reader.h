@@ -1,6 +1,6 @@
 // Reads a text in sequence, in either direction, without a descent of the tree for each byte: it
-// holds the stretch of contiguous bytes that was read last, and steps to the shard beside it. Use it
-// for every walk: painting, motions, searching. A reader is valid until the text changes.
+// holds the stretch of contiguous bytes that was read last, and steps to the shard beside it. Use
+// it for every walk: painting, motions, searching. A reader is valid until the text changes.
 //
 //   reader r = readsheet(s);
 //   while (readbyte(r, i) != 10) i++;        // any order of offsets; neighbours are cheapest

@@ -17,7 +17,9 @@ static uint32_t countless1(int64_t n) {
   return static_cast<uint32_t>(n - 1);
 }
 
-static void settotal(shard* s, int64_t n) { s->word = (s->word & 0x80000001u) | countless1(n) << 1; }
+static void settotal(shard* s, int64_t n) {
+  s->word = (s->word & 0x80000001u) | countless1(n) << 1;
+}
 
 static void retotal(shard* s) {
   settotal(s, shardtotal(s->left) + shardlength(s) + shardtotal(s->right));

@@ -17,8 +17,9 @@
 //   total  bytes in the whole subtree; kept less one, so that 2^30 of them fit in 30 bits
 //   red    set: a red node
 //
-// A tree is known by its root, a null one is the empty text. Every function that changes a tree takes
-// its root by reference. Offsets and counts are in bytes; one out of range is a program fault.
+// A tree is known by its root, a null one is the empty text. Every function that changes a tree
+// takes its root by reference. Offsets and counts are in bytes; one out of range is a program
+// fault.
 #pragma once
 
 #include <cstdint>
@@ -51,7 +52,8 @@ inline int64_t shardtotal(const shard* s) {
   return s == nullptr ? 0 : static_cast<int64_t>((s->word >> 1) & 0x3FFFFFFF) + 1;
 }
 
-// A shard outside any tree: one byte, or a run of n bytes, 1 to 2^30, that must stay where they are.
+// A shard outside any tree: one byte, or a run of n bytes, 1 to 2^30, that must stay where they
+// are.
 shard* shardsingle(uint8_t byte);
 shard* shardrun(const uint8_t* bytes, int64_t n);
 
@@ -71,9 +73,9 @@ void shardinsert(shard*& root, int64_t i, shard* fresh);
 // The same, `within` bytes into the shard s of the tree, 0 to its length: without a search.
 void shardinsertat(shard*& root, shard* s, int64_t within, shard* fresh);
 
-// Lets the shard s of the tree take one byte more at its end: a run that ends at `room` goes on there,
-// and a single moves to `room` with the byte behind it. Gives how many bytes of `room` are used now;
-// 0, and nothing has changed, for a run that ends elsewhere.
+// Lets the shard s of the tree take one byte more at its end: a run that ends at `room` goes on
+// there, and a single moves to `room` with the byte behind it. Gives how many bytes of `room` are
+// used now; 0, and nothing has changed, for a run that ends elsewhere.
 int32_t shardgrow(shard* s, uint8_t* room, uint8_t byte);
 
 // Removes n bytes from offset i on; all of them must be there.

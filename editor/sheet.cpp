@@ -202,8 +202,9 @@ void deletecount(sheet& s, int64_t n) {
   boundsdeleted(s, n);
 }
 
-// What the new text has in common with the saved one at either end is made of runs over that, so that
-// a text that comes back to the saved one costs no memory, and comparing the two costs no time.
+// What the new text has in common with the saved one at either end is made of runs over that, so
+// that a text that comes back to the saved one costs no memory, and comparing the two costs no
+// time.
 void retext(sheet& s, const Str& text) {
   droptree(s);
   s.root = runover(text);

@@ -1,6 +1,6 @@
-// One open buffer: the text as a tree of pieces, the text as it was last saved, and the offsets that
-// the editor works with. Bytes are raw, offsets count them from 0, and a newline is byte 10; there is
-// no table of lines.
+// One open buffer: the text as a tree of pieces, the text as it was last saved, and the offsets
+// that the editor works with. Bytes are raw, offsets count them from 0, and a newline is byte 10;
+// there is no table of lines.
 //
 // The difference bounds tell where the text can differ from `saved`, without any record of edits:
 //
@@ -14,8 +14,8 @@
 //   - the sheet is clean, that is the text equals `saved`, exactly when difflow == size and
 //     size == length of `saved`
 //
-// Only the functions below and the opers (history.h) change a text; commands make opers. A sheet may
-// be copied, but the copy shares the tree: keep none across a change of the text.
+// Only the functions below and the opers (history.h) change a text; commands make opers. A sheet
+// may be copied, but the copy shares the tree: keep none across a change of the text.
 #pragma once
 
 #include <cstdint>
@@ -26,8 +26,8 @@
 
 namespace tarn {
 
-// A text that runs of the tree point into, beside `saved`: a large insertion is one run over it, and
-// bytes typed in a row fill the room of a block.
+// A text that runs of the tree point into, beside `saved`: a large insertion is one run over it,
+// and bytes typed in a row fill the room of a block.
 struct kepttext {
   Str text;
   kepttext* next;
@@ -73,8 +73,8 @@ inline int64_t size(const sheet& s) { return shardtotal(s.root); }
 // Whether the text equals `saved`.
 inline bool isclean(const sheet& s) { return s.difflow == size(s) && size(s) == s.saved.len(); }
 
-// The byte at i, and 10 for every i outside the text, so that a walk over lines stops at the ends by
-// itself. A descent of the tree: to read many bytes in a row use a reader (reader.h).
+// The byte at i, and 10 for every i outside the text, so that a walk over lines stops at the ends
+// by itself. A descent of the tree: to read many bytes in a row use a reader (reader.h).
 uint8_t byteat(const sheet& s, int64_t i);
 
 // The whole text; of a clean sheet it is `saved` itself, not a copy.
@@ -89,8 +89,9 @@ void copybytes(const sheet& s, int64_t from, int64_t to, uint8_t* out);  // the 
 bool ischanged(const sheet& s, int64_t i);
 bool ischanged(const sheet& s, int64_t i, uint8_t byte);
 
-// The changes. Each lowers `touched` to where it begins, and keeps the difference bounds; none looks at the window.
-// The size limit is the caller's to test: more than 2^30 bytes are a program fault.
+// The changes. Each lowers `touched` to where it begins, and keeps the difference bounds; none
+// looks at the window. The size limit is the caller's to test: more than 2^30 bytes are a program
+// fault.
 void insertbyte(sheet& s, uint8_t byte);    // in front of the byte at the point, which stays
 void deletebyte(sheet& s);                  // the byte at the point; the point stays
 void replacebyte(sheet& s, uint8_t byte);   // the byte at the point, stepping over; not at the end

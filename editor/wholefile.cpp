@@ -11,8 +11,8 @@ namespace tarn {
 
 static constexpr int64_t piecesize = 4095;
 
-// The bytes left in the file, by its own word; 0 for what has no size, such as a pipe, and for a size
-// beyond any text, which is what a directory claims.
+// The bytes left in the file, by its own word; 0 for what has no size, such as a pipe, and for a
+// size beyond any text, which is what a directory claims.
 static int64_t toldsize(FILE* file) {
   int64_t n = fseek(file, 0, SEEK_END) == 0 ? ftell(file) : 0;
   if (fseek(file, 0, SEEK_SET) != 0) clearerr(file);

@@ -1,5 +1,6 @@
-// Files are read and written whole, within one command. No format, no backup copy: the bytes as they
-// are. A file that cannot be opened, read, written or closed is a program fault, and the text is lost.
+// Files are read and written whole, within one command. No format, no backup copy: the bytes as
+// they are. A file that cannot be opened, read, written or closed is a program fault, and the text
+// is lost.
 #pragma once
 
 #include "foundation/str.h"
@@ -10,8 +11,8 @@ Str readwhole(const Str& path);
 void writewhole(const Str& path, const Str& text);
 
 // Saves the current buffer: writes the text to the file of its name and takes it as the saved one.
-// The scratch buffer "." is on no disk: its text is only taken as saved. Nothing happens if the sheet
-// is clean. The history of edits stays.
+// The scratch buffer "." is on no disk: its text is only taken as saved. Nothing happens if the
+// sheet is clean. The history of edits stays.
 void savesheet();
 
 }  // namespace tarn

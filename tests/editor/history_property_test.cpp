@@ -29,7 +29,10 @@ struct Player {
 void typestep(Player& run) { run.anywhere(), opinsert(run.byte()); }
 void backspacestep(Player& run) { run.anywhere(), opbackspace(); }
 void pastestep(Player& run) { run.anywhere(), oppaste(run.piece(run.below(20) == 0 ? 400 : 5)); }
-void runstep(Player& run) { run.anywhere(), oprun(strnumber(static_cast<int64_t>(run.below(6))), 'a'); }
+void runstep(Player& run) {
+  run.anywhere();
+  oprun(strnumber(static_cast<int64_t>(run.below(6))), 'a');
+}
 void modestep(Player& run) { run.buffer.s().insertmode ^= 1; }
 
 void deletestep(Player& run) {

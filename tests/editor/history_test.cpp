@@ -10,12 +10,13 @@
 namespace tarn {
 namespace {
 
-// Plays keys: a letter types itself, '<' undoes, '>' redoes. Gives the text after each key, a '!' in
-// front where the bell would ring.
+// Plays keys: a letter types itself, '<' undoes, '>' redoes. Gives the text after each key, a '!'
+// in front where the bell would ring.
 std::string play(Buffer& buffer, const std::string& keys) {
   std::string states;
   for (char key : keys) {
-    bool done = key == '<' ? editback() : key == '>' ? editredo() : opinsert(static_cast<uint8_t>(key));
+    uint8_t byte = static_cast<uint8_t>(key);
+    bool done = key == '<' ? editback() : key == '>' ? editredo() : opinsert(byte);
     states += (states.empty() ? "" : " ") + std::string(done ? "" : "!") + buffer.text();
   }
   return states;

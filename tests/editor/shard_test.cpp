@@ -1,4 +1,5 @@
-// The tree of pieces: the size word, finding, cutting, inserting, removing, and that it stays shallow.
+// The tree of pieces: the size word, finding, cutting, inserting, removing, and that it stays
+// shallow.
 #include "editor/shard.h"
 
 #include <gtest/gtest.h>

@@ -81,7 +81,8 @@ void deletemanystep(Player& run) {
 // Back to the saved text, or to a mixture of it and the present one.
 void retextstep(Player& run) {
   size_t cut = run.below(std::min(run.model.size(), run.saved.size()) + 1);
-  std::string text = run.below(2) == 0 ? run.saved : run.saved.substr(0, cut) + run.model.substr(cut);
+  std::string text = run.saved;
+  if (run.below(2) == 0) text = run.saved.substr(0, cut) + run.model.substr(cut);
   setpoint(run, run.below(run.model.size() + 1));
   int64_t point = run.s.point;
   retext(run.s, strof(text));
@@ -106,7 +107,8 @@ void agree(const Player& run) {
     if (ischanged(run.s, at)) continue;
     bool head = i < run.saved.size() && run.saved[i] == run.model[i];
     size_t fromend = run.model.size() - i;
-    bool tail = fromend <= run.saved.size() && run.saved[run.saved.size() - fromend] == run.model[i];
+    size_t mirror = run.saved.size() - fromend;
+    bool tail = fromend <= run.saved.size() && run.saved[mirror] == run.model[i];
     ASSERT_TRUE(head || tail) << i;
   }
 }
