@@ -9,14 +9,22 @@
 
 namespace tarn {
 
-//   carried out                                  reversed                        point then stands
-void todotyped(sheet& s, const oper& o);    void undotyped(sheet& s, const oper& o);  // at or behind
-void todoran(sheet& s, const oper& o);      void undoran(sheet& s, const oper& o);  // behind | at t
-void todopasted(sheet& s, const oper& o);   void undopasted(sheet& s, const oper& o);  // behind | at t
-void todocut(sheet& s, const oper& o);      void undocut(sheet& s, const oper& o);  // at t | behind
-void todoswapped(sheet& s, const oper& o);  void undoswapped(sheet& s, const oper& o);  // where it was
-void tododented(sheet& s, const oper& o);   void undodented(sheet& s, const oper& o);  // on its byte
-void todosorted(sheet& s, const oper& o);   void undosorted(sheet& s, const oper& o);  // line start | t
+// Where the point then stands, carried out | reversed:
+//
+//   typed    at or behind
+//   ran      behind | at t
+//   pasted   behind | at t
+//   cut      at t | behind
+//   swapped  where it was
+//   dented   on its byte
+//   sorted   line start | t
+void todotyped(sheet& s, const oper& o);   void undotyped(sheet& s, const oper& o);
+void todoran(sheet& s, const oper& o);     void undoran(sheet& s, const oper& o);
+void todopasted(sheet& s, const oper& o);  void undopasted(sheet& s, const oper& o);
+void todocut(sheet& s, const oper& o);     void undocut(sheet& s, const oper& o);
+void todoswapped(sheet& s, const oper& o); void undoswapped(sheet& s, const oper& o);
+void tododented(sheet& s, const oper& o);  void undodented(sheet& s, const oper& o);
+void todosorted(sheet& s, const oper& o);  void undosorted(sheet& s, const oper& o);
 
 // Enters an oper at t in the current buffer and carries it out; true.
 bool carry(opertype w, int64_t t, const Str& data);

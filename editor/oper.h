@@ -24,16 +24,16 @@
 
 namespace tarn {
 
-//  type        what it did                        data                                     t
+//  type        what it did                        data                                t
 enum opertype : uint32_t {
-  opmarker = 0,   // an undo, or the undo of one   empty                                    version
-  opswapped = 1,  // replaced in a range, or root  see swapedit.cpp; empty for root   range start
-  opran = 2,      // put in a run of one byte      decimal count, then the byte             point
-  opsorted = 3,   // reordered the definitions     the whole text before it                 point
-  opcut = 4,      // deleted a stretch             the deleted bytes                        point
-  oppasted = 5,   // put in a text                 the text                                 point
-  optyped = 6,    // one byte                      a kind and two bytes, see history.cpp    point
-  opdented = 7,   // indented or outdented lines   see dentedit.cpp                   range start
+  opmarker = 0,   // an undo, or the undo of one   empty                               version
+  opswapped = 1,  // replaced in a range, or root  see swapedit.cpp; empty for a root  range start
+  opran = 2,      // put in a run of one byte      decimal count, then the byte        point
+  opsorted = 3,   // reordered the definitions     the whole text before it            point
+  opcut = 4,      // deleted a stretch             the deleted bytes                   point
+  oppasted = 5,   // put in a text                 the text                            point
+  optyped = 6,    // one byte                      a kind and two, see edits.cpp       point
+  opdented = 7,   // indented or outdented lines   see dentedit.cpp                    range start
 };
 
 struct oper {
