@@ -5,6 +5,7 @@
 
 #include <array>
 #include <fstream>
+#include <iterator>
 #include <string>
 #include <utility>
 #include <vector>
@@ -27,6 +28,19 @@ TEST(BuiltinTable, HasTheWantedNamesAndAritiesInOrder) {
   for (size_t i = 0; i < wanted.size(); i++) {
     EXPECT_EQ(builtinrows[i].name, wanted[i].first);
     EXPECT_EQ(builtinrows[i].arity, wanted[i].second) << wanted[i].first;
+  }
+}
+
+// Each builtin stands in the reference between backticks, alone or with its arguments behind it.
+TEST(BuiltinTable, IsToldWholeInTheReference) {
+  std::ifstream file(REFERENCE);
+  std::string page((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
+  ASSERT_FALSE(page.empty());
+  for (const BuiltinRow& row : builtinrows) {
+    std::string name = std::string("`") + row.name;
+    EXPECT_TRUE(page.find(name + "`") != std::string::npos ||
+                page.find(name + " ") != std::string::npos)
+        << row.name;
   }
 }
 
