@@ -34,7 +34,8 @@ void consolesize(int64_t& columns, int64_t& rows);
 // Waits for the next event. The end of the input ends the process with status 1.
 void consolenext(ConsoleEvent& event);
 
-// Whether consolenext can be called at once, without waiting for the user.
+// Whether more keys are known to have come, so that consolenext can be called at once. After a key
+// that came alone the console is not asked again, and one pressed just now may not be known yet.
 bool consolewaiting();
 
 // Writes n bytes in one write, going on where that is cut short. A real error is a failure.

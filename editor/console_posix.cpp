@@ -27,6 +27,7 @@ struct Console {
   termios mine;      // the modes of the editor
   sigset_t waiting;  // the signals blocked while waiting: those of the start
   KeyText ahead;     // a key decoded and not yet asked for; n 0 for none
+  bool pressed;      // the last read brought no more than one press of a key does
   TermKeys keys;
 };
 
@@ -117,9 +118,14 @@ void admitsignals() {
   ppoll(nullptr, 0, &now, &console.waiting);
 }
 
+// A read takes all that has come, so that after one press nothing is left to ask for. Only a paste or
+// keys that came faster than they were taken are longer than this.
+constexpr ssize_t pressbytes = 8;
+
 void readkeys() {
   uint8_t* room = termbuffer(console.keys);
   ssize_t n = read(0, room, termroom);
+  console.pressed = n <= pressbytes;
   if (n > 0) return termread(console.keys, static_cast<int32_t>(n));
   if (n == 0 || errno == EIO) exit(1);  // hung up
   check(errno == EINTR || errno == EAGAIN || errno == EWOULDBLOCK);
@@ -166,6 +172,7 @@ void consolesize(int64_t& columns, int64_t& rows) {
 
 bool consolewaiting() {
   if (lookahead()) return true;
+  if (console.pressed) return false;
   pollfd input = {0, POLLIN, 0};
   return poll(&input, 1, 0) > 0;
 }

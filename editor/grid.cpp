@@ -17,6 +17,13 @@ struct Grids {
 
 static Grids grids = {nullptr, nullptr, nullptr};
 
+void fillcells(Cell16* from, Cell16* to, Cell16 cell) {
+  const uint64_t four = cell * 0x0001000100010001u;
+  const uint64_t sixteen[] = {four, four, four, four};
+  for (; to - from >= 16; from += 16) memcpy(from, sixteen, sizeof sixteen);
+  while (from < to) *from++ = cell;
+}
+
 void gridreset() {
   size_t cells = static_cast<size_t>(width * height);
   free(grids.drawn);
@@ -143,6 +150,9 @@ static uint8_t* putcell(uint8_t* out, Pen& pen, Cell16 cell) {
 
 // The first cell from `at` on that differs, or `cells`.
 static int64_t skipsame(const Cell16* drawn, const Cell16* shown, int64_t at, int64_t cells) {
+  constexpr int64_t block = 64;
+  constexpr size_t blockbytes = block * sizeof(Cell16);
+  while (at + block <= cells && memcmp(drawn + at, shown + at, blockbytes) == 0) at += block;
   constexpr int64_t step = sizeof(uint64_t) / sizeof(Cell16);
   for (; at + step <= cells; at += step) {
     uint64_t a, b;

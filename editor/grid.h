@@ -27,6 +27,9 @@ constexpr Cell16 gridcell(uint32_t back, uint32_t fore, uint32_t low) {
   return static_cast<Cell16>(back << 12 | fore << 8 | low);
 }
 
+// Sets all cells from `from` up to `to` to one cell; nothing if `to` is not behind `from`.
+void fillcells(Cell16* from, Cell16* to, Cell16 cell);
+
 // Makes both grids anew for a window of `width` by `height`, all zero, so that the next paintdiff
 // sends every cell that is not zero.
 void gridreset();

@@ -6,13 +6,14 @@
 #include "editor/grid.h"
 #include "editor/kink.h"
 #include "editor/paint.h"
+#include "editor/pink.h"
 #include "editor/state.h"
 
 namespace tarn {
 
 void listground(const char* word) {
   Cell16* grid = drawngrid();
-  std::fill(grid, grid + width * height, gridcell(kinknibble(11), kinknibble(9), '!'));
+  fillcells(grid, grid + width * height, gridcell(kinknibble(11), kinknibble(9), '!'));
   paintword(word);
 }
 
@@ -20,8 +21,9 @@ void listfield(int64_t row, int64_t col, int64_t columns, const Str& text, bool 
   Cell16* cells = drawngrid() + row * width + col;
   columns = std::min(columns, width - col);
   int64_t shown = std::min(columns, text.len());
-  for (int64_t i = 0; i < shown; i++) cells[i] = pinkcell(picked, false, true, text.bytes()[i]);
-  std::fill(cells + shown, cells + std::max(shown, columns), pinkblank(picked, true));
+  const PinkTable& pinks = presentpinks();
+  for (int64_t i = 0; i < shown; i++) cells[i] = pinks.cells[1][picked][text.bytes()[i]];
+  fillcells(cells + shown, cells + columns, pinks.blanks[1][picked]);
 }
 
 }  // namespace tarn

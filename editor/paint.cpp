@@ -1,107 +1,23 @@
-// The painter of texts: colours, the layout of rows, the status row.
+// The painter of texts: the layout of rows, the status row, and paints put off while keys wait.
 #include "editor/paint.h"
 
 #include <algorithm>
-#include <array>
 #include <cstring>
 
 #include "editor/console.h"
+#include "editor/grid.h"
 #include "editor/kink.h"
+#include "editor/pink.h"
 #include "editor/reader.h"
 #include "editor/sheet.h"
 #include "editor/state.h"
-#include "foundation/alphabet.h"
 #include "foundation/diag.h"
 
 namespace tarn {
 
-int32_t byteclass(uint8_t byte) {
-  if (byte >= 0xA1 && byte <= 0xFE) return classred;
-  return byte >= 0x21 && byte <= 0x7E ? classyellow : classgreen;
-}
-
-// The glyph of every byte: the green ones have names, the others show themselves.
-static constexpr std::array<uint8_t, 256> glyphs = [] {
-  std::array<uint8_t, 256> table = {};
-  for (size_t b = 0; b < 256; b++) table[b] = static_cast<uint8_t>(b & 0x7F);
-  for (size_t i = 0; i < lownames.size(); i++) {
-    table[(i + 255) % 256] = static_cast<uint8_t>(lownames[i]);
-  }
-  for (size_t i = 0; i < highnames.size(); i++) {
-    table[i + 127] = static_cast<uint8_t>(highnames[i]);
-  }
-  return table;
-}();
-
-uint8_t byteglyph(uint8_t byte) { return glyphs[byte]; }
-
-// The four states of a sheet, in the order of their backgrounds n3 to n6; the flags of n12 run the
-// other way.
-static int32_t editstate(bool changed, bool overwrite) {
-  return overwrite ? (changed ? 2 : 3) : (changed ? 1 : 0);
-}
-
-static bool schemea(int32_t state) { return kinknibble(12) >> (3 - state) & 1; }
-
-static int32_t currentstate() {
-  const sheet& s = currentsheet();
-  return editstate(!isclean(s), s.insertmode == 0);
-}
-
-uint32_t pinkfore(bool changed, bool overwrite, int32_t byteclass) {
-  if (byteclass < classred || byteclass > classyellow) die("pinkfore");
-  int32_t first = schemea(editstate(changed, overwrite)) ? 0 : 7;
-  return kinknibble(first + byteclass - classred);
-}
-
-static uint32_t pinkback(bool chosen, bool statusrow, int32_t state) {
-  if (statusrow) return kinknibble(chosen ? 10 : 11);
-  if (chosen) return kinknibble(schemea(state) ? 13 : 14);
-  return kinknibble(3 + state);
-}
-
-Cell16 pinkcell(bool chosen, bool changedbyte, bool statusrow, uint8_t byte) {
-  const sheet& s = currentsheet();
-  bool changed = !isclean(s);
-  bool overwrite = s.insertmode == 0;
-  int32_t kind = byteclass(byte);
-  uint32_t fore = statusrow ? kinknibble(6 + kind) : pinkfore(changed, overwrite, kind);
-  uint32_t back = pinkback(chosen, statusrow, editstate(changed, overwrite));
-  return gridcell(back, fore, byteglyph(byte) | (changedbyte ? cellchanged : 0u));
-}
-
-Cell16 pinkblank(bool chosen, bool statusrow) {
-  uint32_t back = pinkback(chosen, statusrow, currentstate());
-  return gridcell(back, back, ' ');
-}
-
-// The cells of all bytes of a text, unselected and selected, and what they were made for.
-struct CellTable {
-  uint64_t palette;
-  int32_t state;  // -1 before the first use
-  Cell16 cells[2][256];
-  Cell16 blank;
-};
-
-static CellTable celltable = {0, -1, {}, 0};
-
-static const CellTable& presentcells() {
-  CellTable& t = celltable;
-  int32_t state = currentstate();
-  if (t.palette == kink && t.state == state) return t;
-  for (int32_t b = 0; b < 256; b++) {
-    t.cells[0][b] = pinkcell(false, false, false, static_cast<uint8_t>(b));
-    t.cells[1][b] = pinkcell(true, false, false, static_cast<uint8_t>(b));
-  }
-  t.blank = pinkblank(false, false);
-  t.palette = kink;
-  t.state = state;
-  return t;
-}
-
 // The layout of a text, on its way through the grid.
 struct Layout {
-  const CellTable* table;
+  const PinkTable* pinks;
   int64_t at;      // the offset of the next byte
   Cell16* cell;    // where it goes
   Cell16* rowend;  // behind the row of that cell; cell < rowend but at the end of the grid
@@ -109,7 +25,7 @@ struct Layout {
 };
 
 static void endrow(Layout& l) {
-  std::fill(l.cell, l.rowend, l.table->blank);
+  fillcells(l.cell, l.rowend, l.pinks->blanks[0][0]);
   l.cell = l.rowend;
   l.rowend += width;
 }
@@ -120,15 +36,31 @@ struct Difference {
   Cell16 flag;           // without `saved`: cellchanged or 0, for all
 };
 
+// Makes the cells of n bytes of one look that stand in one row.
+static void drawrun(Cell16* out, const uint8_t* bytes, int64_t n, const Cell16* cells,
+                    Difference difference) {
+  if (difference.saved == nullptr) {
+    for (int64_t i = 0; i < n; i++) out[i] = cells[bytes[i]] | difference.flag;
+    return;
+  }
+  for (int64_t i = 0; i < n; i++) {
+    out[i] = cells[bytes[i]] | (difference.saved[i] != bytes[i] ? cellchanged : Cell16{0});
+  }
+}
+
 // Lays out n bytes of one look, as far as the grid goes.
 static void drawstretch(Layout& l, const uint8_t* bytes, int64_t n, const Cell16* cells,
                         Difference difference) {
-  for (int64_t i = 0; i < n && l.cell < l.end; i++) {
-    Cell16 flag = difference.flag;
-    if (difference.saved != nullptr) flag = difference.saved[i] != bytes[i] ? cellchanged : 0;
-    *l.cell++ = cells[bytes[i]] | flag;
-    l.at++;
-    if (bytes[i] == '\n') {
+  for (int64_t i = 0; i < n && l.cell < l.end;) {
+    int64_t run = std::min<int64_t>(n - i, l.rowend - l.cell);
+    const void* newline = memchr(bytes + i, '\n', static_cast<size_t>(run));
+    if (newline != nullptr) run = static_cast<const uint8_t*>(newline) + 1 - (bytes + i);
+    drawrun(l.cell, bytes + i, run, cells, difference);
+    if (difference.saved != nullptr) difference.saved += run;
+    l.cell += run;
+    l.at += run;
+    i += run;
+    if (newline != nullptr) {
       endrow(l);
     } else if (l.cell == l.rowend) {
       l.rowend += width;
@@ -165,7 +97,7 @@ Spot drawtext(Highlight highlight) {
   Cell16* grid = drawngrid();
   const Range picked = selection(s);
   const Range changed = {s.difflow, s.diffhigh};
-  Layout l = {&presentcells(), s.top, grid + width, grid + 2 * width, grid + width * height};
+  Layout l = {&presentpinks(), s.top, grid + width, grid + 2 * width, grid + width * height};
   Cell16* found = nullptr;
   reader r = readsheet(s);
   while (l.cell < l.end) {
@@ -175,7 +107,7 @@ Spot drawtext(Highlight highlight) {
     if (l.at < s.point) stop = std::min<int64_t>(stop, s.point);
     if (highlight != nullptr) stop = l.at + 1;
     bool chosen = highlight != nullptr ? highlight(l.at) : within(picked, l.at);
-    drawstretch(l, r.bytes + (l.at - r.start), stop - l.at, l.table->cells[chosen],
+    drawstretch(l, r.bytes + (l.at - r.start), stop - l.at, l.pinks->cells[0][chosen],
                 differenceat(s, changed, l.at));
   }
   while (l.cell < l.end) endrow(l);
@@ -196,19 +128,16 @@ void paintword(const char* word) {
   bool tabs = isword(word, "Tabs");
   bool list = tabs || isword(word, "Open") || isword(word, "Save");
   bool picked = tabs && selected % height == 0;
+  const PinkTable& pinks = presentpinks();
+  const Cell16* cells = pinks.cells[list][picked];
+  const Cell16 ink = inkcell(word);
   Cell16* row = drawngrid();
-  for (int64_t col = 0; col < width; col++) {
-    int64_t i = col - 5 + statshift;
-    if (col < 4) {
-      row[col] = pinkcell(picked, false, list, static_cast<uint8_t>(word[col]));
-    } else if (col == 4) {
-      row[col] = inkcell(word);
-    } else if (i < stat.len()) {
-      row[col] = pinkcell(picked, false, list, stat.at(i));
-    } else {
-      row[col] = pinkblank(picked, list);
-    }
-  }
+  Cell16* out = row;
+  Cell16* end = row + width;  // the window of the start may be narrower than the word
+  for (; out < end && *word != 0; word++) *out++ = cells[static_cast<uint8_t>(*word)];
+  if (out < end) *out++ = ink;
+  for (int64_t i = statshift; out < end && i < stat.len(); i++) *out++ = cells[stat.at(i)];
+  fillcells(out, end, pinks.blanks[list][picked]);
 }
 
 Spot drawsheet(const char* word) {

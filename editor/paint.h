@@ -7,25 +7,7 @@
 
 #include <cstdint>
 
-#include "editor/grid.h"
-#include "foundation/str.h"
-
 namespace tarn {
-
-// The classes of bytes.
-enum : int32_t { classred = 1, classgreen = 2, classyellow = 3 };
-
-int32_t byteclass(uint8_t byte);
-uint8_t byteglyph(uint8_t byte);  // 0x21 to 0x7E
-
-// The foreground of a class in a state of the sheet. Any other class ends the program ("pinkfore").
-uint32_t pinkfore(bool changed, bool overwrite, int32_t byteclass);
-
-// The cell of a byte: in the colours of the current sheet's state or, with statusrow, of the lists.
-Cell16 pinkcell(bool chosen, bool changedbyte, bool statusrow, uint8_t byte);
-
-// The cell of empty space under the same choice.
-Cell16 pinkblank(bool chosen, bool statusrow);
 
 // Draws row 0: the word, four characters, the ink cell, and `stat` from `statshift` on. The words
 // "Open", "Save" and "Tabs" have the colours of the lists.

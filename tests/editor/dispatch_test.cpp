@@ -6,6 +6,7 @@
 #include <string>
 
 #include "editor/commands.h"
+#include "editor/grid.h"
 #include "editor/paint.h"
 #include "editor/state.h"
 #include "editor/status.h"

@@ -114,13 +114,27 @@ TEST(Gridbytes, ARunGoesOverTheEndOfARow) {
 }
 
 TEST(Gridbytes, LongEqualRunsAreSkippedToTheCell) {
-  for (size_t at = 0; at < 40; at++) {
-    std::vector<Cell16> shown(40, 0x0361), drawn = shown;
+  for (size_t at = 0; at < 200; at++) {
+    std::vector<Cell16> shown(200, 0x0361), drawn = shown;
     drawn[at] = 0x0362;
     std::string move = at == 0 ? "" : "\x1B[1;" + std::to_string(at + 1) + "H";
-    EXPECT_EQ(bytes(drawn, shown, 40, 0, 0),
+    EXPECT_EQ(bytes(drawn, shown, 200, 0, 0),
               "\x1B[1;1H\x1B[0m" + move + "\x1B[33m\x1B[40mb\x1B[1;1H");
   }
+}
+
+TEST(Fillcells, FillsThoseCellsAlone) {
+  for (size_t from = 0; from < 40; from++) {
+    for (size_t to = from; to < 40; to++) {
+      std::vector<Cell16> cells(40, 0x1234), expected = cells;
+      for (size_t i = from; i < to; i++) expected[i] = 0xF0A5;
+      fillcells(cells.data() + from, cells.data() + to, 0xF0A5);
+      EXPECT_EQ(cells, expected) << from << " " << to;
+    }
+  }
+  Cell16 cell = 7;
+  fillcells(&cell + 1, &cell, 9);
+  EXPECT_EQ(cell, 7);
 }
 
 TEST(Gridbytes, TheDetour) {
