@@ -41,6 +41,14 @@ volatile sig_atomic_t modesset = 0;   // there is something to put back
 void noteresize(int) { resized = 1; }
 void notecontinue(int) { continued = 1; }
 
+// Sets the terminal's modes, however often a signal comes between; false on a real error.
+bool changemodes(const termios& modes) {
+  while (tcsetattr(0, TCSANOW, &modes) != 0) {
+    if (errno != EINTR) return false;
+  }
+  return true;
+}
+
 // Plain colours, the cursor on the last row, the modes as they were. Safe within a signal handler.
 void putback() {
   if (!modesset) return;
@@ -53,7 +61,7 @@ void putback() {
   for (int row = lastrow; row > 0; row /= 10) *--at = static_cast<char>('0' + row % 10);
   for (const char* c = "[\x1Bm0[\x1B"; *c != 0; c++) *--at = *c;
   systemwrite(1, at, words + sizeof words - at);
-  tcsetattr(0, TCSANOW, &console.found);
+  changemodes(console.found);  // a terminal that is gone has no modes
 }
 
 void dieofsignal(int number) {
@@ -105,7 +113,7 @@ termios editormodes(const termios& found) {
 }
 
 void setmodes() {
-  while (tcsetattr(0, TCSANOW, &console.mine) != 0) check(errno == EINTR);
+  check(changemodes(console.mine));
   modesset = 1;
 }
 
@@ -118,6 +126,14 @@ void admitsignals() {
   ppoll(nullptr, 0, &now, &console.waiting);
 }
 
+[[noreturn]] void hangup() { exit(1); }
+
+// Whether the terminal is gone, which a write to it tells as any other error.
+bool hungup() {
+  pollfd input = {0, POLLIN, 0};
+  return poll(&input, 1, 0) > 0 && (input.revents & POLLHUP) != 0;
+}
+
 // A read takes all that has come, so that after one press nothing is left to ask for. Only a paste or
 // keys that came faster than they were taken are longer than this.
 constexpr ssize_t pressbytes = 8;
@@ -127,7 +143,7 @@ void readkeys() {
   ssize_t n = read(0, room, termroom);
   console.pressed = n <= pressbytes;
   if (n > 0) return termread(console.keys, static_cast<int32_t>(n));
-  if (n == 0 || errno == EIO) exit(1);  // hung up
+  if (n == 0 || errno == EIO) hangup();
   check(errno == EINTR || errno == EAGAIN || errno == EWOULDBLOCK);
 }
 
@@ -189,6 +205,10 @@ void consolenext(ConsoleEvent& event) {
   if (lookahead()) tellkey(event);
 }
 
-void consolewrite(const void* bytes, int64_t n) { check(systemwrite(1, bytes, n)); }
+void consolewrite(const void* bytes, int64_t n) {
+  if (systemwrite(1, bytes, n)) return;
+  if (hungup()) hangup();
+  check(false);
+}
 
 }  // namespace tarn

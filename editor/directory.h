@@ -15,8 +15,8 @@ struct DirectoryEntry {
 
 // Adds the entries of the directory that are directories or regular files, in any order, without
 // "." and "..". Entries that cannot be looked at are left out. False if the directory cannot be
-// read at all. A directory that cannot be closed ends the process with status 1, after the word
-// "closedir".
+// read, at all or to its end; what was found till then is added. A directory that cannot be closed
+// ends the process with status 1, after the word "closedir".
 bool readdirectory(const Str& path, std::vector<DirectoryEntry>& found);
 
 // Whether the path names anything at all, be it a link that leads nowhere.

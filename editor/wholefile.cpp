@@ -1,11 +1,13 @@
 // Whole files, through the C library.
 #include "editor/wholefile.h"
 
+#include <cerrno>
 #include <cstdio>
 
 #include "editor/sheet.h"
 #include "editor/state.h"
 #include "foundation/strbuilder.h"
+#include "foundation/system.h"
 
 namespace tarn {
 
@@ -19,12 +21,21 @@ static int64_t toldsize(FILE* file) {
   return n > 0 && n <= sizelimit ? n : 0;
 }
 
-// Reads up to n bytes in one request; fewer only at the end of the file.
+// Reads up to n bytes; fewer only at the end of the file. What a signal interrupts is gone on with.
+static int64_t readon(FILE* file, uint8_t* room, int64_t n) {
+  int64_t got = 0;
+  for (;;) {
+    got += static_cast<int64_t>(fread(room + got, 1, static_cast<size_t>(n - got), file));
+    if (got == n || feof(file)) return got;
+    check(errno == EINTR);
+    clearerr(file);
+  }
+}
+
 static Str readpiece(FILE* file, int64_t n) {
+  if (n == 0) return Str();
   Str piece = strsized(n);
-  if (n == 0) return piece;
-  int64_t got = static_cast<int64_t>(fread(piece.own(), 1, static_cast<size_t>(n), file));
-  check(ferror(file) == 0);
+  int64_t got = readon(file, piece.own(), n);
   return got == n ? piece : piece.substr(0, got);
 }
 
@@ -37,18 +48,18 @@ Str readwhole(const Str& path) {
   for (Str piece = readpiece(file, piecesize); !piece.empty(); piece = readpiece(file, piecesize)) {
     rest = StrBuilder::add(rest, piece);
   }
-  check(fclose(file) == 0);
+  fclose(file);  // all of it is here, whatever this says
   if (rest == nullptr) return text;
   Str tail = StrBuilder::take(rest);
   return text.empty() ? tail : text + tail;
 }
 
+// Past the buffer of the stream, which would drop its bytes when a signal cuts a write short.
 void writewhole(const Str& path, const Str& text) {
   FILE* file = fopen(path.text(), "w");
   check(file != nullptr);
-  size_t size = static_cast<size_t>(text.len());
-  check(fwrite(text.bytes(), 1, size, file) == size);
-  check(fclose(file) == 0);
+  check(systemwrite(systemdescriptor(file), text.bytes(), text.len()));
+  check(fclose(file) == 0 || errno == EINTR);  // interrupted, it has closed all the same
 }
 
 void savesheet() {

@@ -1,6 +1,7 @@
 // Files are read and written whole, within one command. No format, no backup copy: the bytes as
-// they are. A file that cannot be opened, read, written or closed is a program fault, and the text
-// is lost.
+// they are. A file that cannot be opened, read, written, or closed after writing is a program fault,
+// and the text is lost; the file then holds as much as was written. Interruptions by signals, and
+// reads and writes cut short, are gone on from.
 #pragma once
 
 #include "foundation/str.h"

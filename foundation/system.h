@@ -11,7 +11,8 @@ namespace tarn {
 void systemstart();
 
 // Writes all n bytes to the descriptor, past all buffering. A short write, an interruption or a
-// descriptor that is not ready is gone on from; false only on a real error.
+// descriptor that is not ready is gone on from; false only on a real error, or where a write takes
+// nothing at all.
 bool systemwrite(int fd, const void* bytes, int64_t n);
 
 // Makes a directory; false if that fails, as it does when it exists.

@@ -15,9 +15,11 @@ bool systemwrite(int fd, const void* bytes, int64_t n) {
   const char* at = static_cast<const char*>(bytes);
   while (n > 0) {
     ssize_t done = write(fd, at, static_cast<size_t>(n));
-    if (done >= 0) {
+    if (done > 0) {
       at += done;
       n -= done;
+    } else if (done == 0) {
+      return false;  // the next one would take no more
     } else if (errno == EAGAIN || errno == EWOULDBLOCK) {
       pollfd ready = {fd, POLLOUT, 0};
       poll(&ready, 1, -1);

@@ -21,7 +21,7 @@ bool systemwrite(int fd, const void* bytes, int64_t n) {
   const char* at = static_cast<const char*>(bytes);
   while (n > 0) {
     int done = _write(fd, at, static_cast<unsigned>(n < most ? n : most));
-    if (done < 0) return false;
+    if (done <= 0) return false;
     at += done;
     n -= done;
   }

@@ -42,15 +42,19 @@ Command readcommand(int argc, char** argv) {
   return command;
 }
 
+// Ends the process over a file that cannot be used.
+[[noreturn]] void giveup(const char* words, const char* path) {
+  fprintf(stderr, "%s: %s\n", words, path);
+  exit(1);
+}
+
 Str readall(const char* path) {
   FILE* file = path == nullptr ? stdin : fopen(path, "rb");
-  if (file == nullptr) {
-    fprintf(stderr, "Cannot open file: %s\n", path);
-    exit(1);
-  }
+  if (file == nullptr) giveup("Cannot open file", path);
   std::string text;
   char piece[65536];
   for (size_t n; (n = fread(piece, 1, sizeof piece, file)) > 0;) text.append(piece, n);
+  if (ferror(file)) giveup("Cannot read file", path == nullptr ? "standard input" : path);
   if (file != stdin) fclose(file);
   return Str(text.data(), static_cast<int64_t>(text.size()));
 }
@@ -58,6 +62,7 @@ Str readall(const char* path) {
 void putline(FILE* out, const Str& text) {
   fwrite(text.bytes(), 1, static_cast<size_t>(text.len()), out);
   fputc('\n', out);
+  if (fflush(out) != 0 || ferror(out)) giveup("Cannot write file", "standard output");
 }
 
 void putstats(double seconds) {

@@ -123,11 +123,13 @@ std::string play(const Scenario& scenario, const Stage& stage) {
     if (!p.fault.empty()) break;
   }
   if (p.fault.empty()) endstep(p);
+  if (p.fault.empty()) checkfaults(p);
   std::string said = p.fault.empty() ? "" : report(p, line);
   if (said.empty() && stage.lastscreen && p.session) stage.lastscreen(p.session->terminal);
   p.session.reset();
   std::error_code error;
   std::filesystem::remove_all(p.directory, error);
+  std::filesystem::remove(p.directory + ".faults", error);
   return said;
 }
 

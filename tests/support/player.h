@@ -18,6 +18,8 @@ struct Play {
   Pace pace;
   std::string directory;  // where the files of the scenario are
   Launch launch = {};     // how the next `start` starts
+  std::string faults = "";     // what is put in then, as tests/faults/faults.cpp reads it
+  std::string faultsnow = "";  // what was put in at the last start
   std::unique_ptr<Session> session = nullptr;  // null before the first
   StrictOutput strict = {};
   size_t checked = 0;      // bytes of output that the strict reader has had
@@ -47,6 +49,7 @@ void replaceall(std::string& text, const std::string& old, const std::string& wi
 void settle(Play& p);       // waits till all has been answered
 void beginstep(Play& p);    // what is demanded next speaks of what comes from here on
 void checkoutput(Play& p);  // reads strictly what came so far
+void checkfaults(Play& p);  // each fault put in at the last start must have come
 
 // The rows of a statement `row`, `text` or `screen`, from row y on.
 void wantrows(Play& p, const Statement& statement, int y);

@@ -57,6 +57,8 @@ void doloose(Play& p, std::string) { p.launch.loose = true; }
 void dooldbackspace(Play& p, std::string) { p.launch.oldbackspace = true; }
 void dooddmodes(Play& p, std::string) { p.launch.oddmodes = true; }
 
+void dofaults(Play& p, std::string rest) { p.faults = rest; }
+
 void dofile(Play& p, std::string rest) {
   std::string path = pathof(p, nextword(rest));
   std::string text = readtext(rest, p.fault);
@@ -88,8 +90,20 @@ void dolink(Play& p, std::string rest) {
 
 // ---- What is done
 
+std::string faultlog(const Play& p) { return p.directory + ".faults"; }
+
+// The program, and in front of it what puts the faults in.
+std::vector<std::string> programwords(const Play& p) {
+  if (p.faults.empty()) return {p.program};
+  return {"/usr/bin/env", "LD_PRELOAD=" PRELOAD, "TARN_FAULTS=" + p.faults,
+          "TARN_FAULTS_LOG=" + faultlog(p), p.program};
+}
+
 void dostart(Play& p, std::string rest) {
-  p.launch.argv = {p.program};
+  checkfaults(p);
+  unlink(faultlog(p).c_str());
+  p.faultsnow = p.faults;
+  p.launch.argv = programwords(p);
   while (!rest.empty() && p.fault.empty()) {
     if (rest[0] == '"') {
       size_t end = rest.find('"', 1);
@@ -263,6 +277,7 @@ const Word words[] = {
     {"loose", prepare, doloose},
     {"oldbackspace", prepare, dooldbackspace},
     {"oddmodes", prepare, dooddmodes},
+    {"faults", prepare, dofaults},
     {"file", prepare, dofile},
     {"dir", prepare, dodir},
     {"hole", prepare, dohole},
@@ -293,6 +308,14 @@ const Word words[] = {
 };
 
 }  // namespace
+
+void checkfaults(Play& p) {
+  std::string came = "\n" + contents(faultlog(p)), rest = p.faultsnow;
+  while (!rest.empty() && p.fault.empty()) {
+    std::string fault = nextword(rest);
+    if (came.find("\n" + fault + "\n") == std::string::npos) p.fault = "it never came: " + fault;
+  }
+}
 
 void wantrows(Play& p, const Statement& statement, int y) {
   for (RowWanted row : statement.rows) {

@@ -48,6 +48,9 @@ void makeodd(termios& modes) {
   modes.c_cc[VINTR] = _POSIX_VDISABLE;
   modes.c_cc[VMIN] = 0;
   modes.c_cc[VTIME] = 1;
+#ifdef VDSUSP
+  modes.c_cc[VDSUSP] = 25;
+#endif
 }
 
 winsize windowsize(int columns, int rows) {
