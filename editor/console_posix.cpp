@@ -49,6 +49,13 @@ bool changemodes(const termios& modes) {
   return true;
 }
 
+// Whether the terminal takes some last words, given a second. One that stands still, such as that of
+// a connection that is lost, must not keep the process from ending.
+bool takeswords() {
+  pollfd output = {1, POLLOUT, 0};
+  return poll(&output, 1, 1000) > 0;
+}
+
 // Plain colours, the cursor on the last row, the modes as they were. Safe within a signal handler.
 void putback() {
   if (!modesset) return;
@@ -60,7 +67,7 @@ void putback() {
   *--at = ';';
   for (int row = lastrow; row > 0; row /= 10) *--at = static_cast<char>('0' + row % 10);
   for (const char* c = "[\x1Bm0[\x1B"; *c != 0; c++) *--at = *c;
-  systemwrite(1, at, words + sizeof words - at);
+  if (takeswords()) systemwrite(1, at, words + sizeof words - at);
   changemodes(console.found);  // a terminal that is gone has no modes
 }
 

@@ -1,6 +1,7 @@
 // Descriptors that are not what the program expects: each is told or made do with.
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <poll.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -82,6 +83,39 @@ TEST(Console, InterruptEndsAnEvaluationThatDoesNot) {
   ASSERT_TRUE(session.finish());
   EXPECT_TRUE(WIFSIGNALED(session.status) && WTERMSIG(session.status) == SIGINT);
   EXPECT_TRUE(session.cooked());
+}
+
+// The end of the program, which nobody reads the output of.
+bool endsunread(Session& session) {
+  for (int64_t end = Session::now() + 30000; !session.ended && Session::now() < end;) {
+    session.ended = waitpid(session.pid, &session.status, WNOHANG) == session.pid;
+    if (!session.ended) poll(nullptr, 0, 5);
+  }
+  return session.ended;
+}
+
+// A terminal that takes nothing more, as when a connection is lost: the program stands still in the
+// middle of a paint, and ends all the same when it is told to. Whether there is room for its last
+// words is a matter of chance.
+TEST(Console, ASignalEndsItWhereTheTerminalStandsStill) {
+  for (int i = 0; i < 8; i++) {
+    Launch launch;
+    launch.argv = {TARN};
+    launch.width = 500 + i;
+    launch.height = 400;
+    Session session(launch);
+    ASSERT_TRUE(session.settle());
+    session.resize(500, 400 + i);
+    int64_t before = 0;
+    for (int64_t spent = session.cputime(); spent != before; spent = session.cputime()) {
+      before = spent;
+      poll(nullptr, 0, 30);
+    }
+    session.signal(SIGTERM);
+    ASSERT_TRUE(endsunread(session));
+    EXPECT_TRUE(WIFSIGNALED(session.status) && WTERMSIG(session.status) == SIGTERM);
+    EXPECT_TRUE(session.cooked());
+  }
 }
 
 // Where no signal tells that the terminal is gone, the next write does. The program waits in the
