@@ -147,7 +147,7 @@ Report compile(const Str& text, CellRef& main) {
   for (auto step : steps) {
     if (report.sound()) report = step(loading);
   }
-  main = loading.terms[""];
+  if (report.sound()) main = loading.terms[""];  // else it dies here, while finalisers are off
   return report;
 }
 
