@@ -64,6 +64,18 @@ Str parentdir(Str path) {
   return path.substr(0, n);
 }
 
+Str drivelesspath(const Str& told) {
+  check(told.len() >= 3);
+  check((told.at(0) | 0x20) >= 'a' && (told.at(0) | 0x20) <= 'z');
+  check(told.at(1) == ':' && told.at(2) == '\\');
+  Str path = told.substr(2);
+  uint8_t* bytes = path.own();
+  for (int64_t i = 0; i < path.len(); i++) {
+    if (bytes[i] == '\\') bytes[i] = '/';
+  }
+  return path.at(path.len() - 1) == '/' ? path : path + "/";
+}
+
 void bail(const Str& message) {
   outstream << message;
   exit(1);

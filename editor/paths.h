@@ -27,6 +27,10 @@ Str findhome();
 // The working directory, ending in "/". One that has no absolute path is a failure.
 Str findcwd();
 
+// A directory's path as Windows tells it, "C:\a\b", as the program has it, "/a/b/". One that does not
+// begin with a drive is a failure.
+Str drivelesspath(const Str& told);
+
 // Writes the message to descriptor 1 and ends the process with status 1.
 [[noreturn]] void bail(const Str& message);
 

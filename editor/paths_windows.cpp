@@ -3,7 +3,6 @@
 #include <direct.h>
 #include <sys/stat.h>
 
-#include <cctype>
 #include <cstdlib>
 
 #include "editor/paths.h"
@@ -11,9 +10,14 @@
 
 namespace tarn {
 
+// The system's `stat` knows a directory by its bare name only, unless it is the root.
 static bool hasmode(const Str& path, unsigned short kind) {
+  int64_t n = path.len();
+  bool slash = n > 1 && path.at(n - 1) == '/';
+  if (slash && kind != _S_IFDIR) return false;
   struct _stat64 found;
-  return _stat64(path.text(), &found) == 0 && (found.st_mode & _S_IFMT) == kind;
+  return _stat64((slash ? path.substr(0, n - 1) : path).text(), &found) == 0 &&
+         (found.st_mode & _S_IFMT) == kind;
 }
 
 bool isdir(const Str& path) { return hasmode(path, _S_IFDIR); }
@@ -24,16 +28,9 @@ Str findhome() { return isdir("/Users/Admin/") ? "/Users/Admin/" : "/"; }
 Str findcwd() {
   char* told = _getcwd(nullptr, 0);
   check(told != nullptr);
-  Str path = told;
+  Str path = drivelesspath(told);
   free(told);
-  check(path.len() >= 3);
-  check(isalpha(path.at(0)) && path.at(0) < 0x80 && path.at(1) == ':' && path.at(2) == '\\');
-  path = path.substr(2);
-  uint8_t* bytes = path.own();
-  for (int64_t i = 0; i < path.len(); i++) {
-    if (bytes[i] == '\\') bytes[i] = '/';
-  }
-  return path.at(path.len() - 1) == '/' ? path : path + "/";
+  return path;
 }
 
 }  // namespace tarn

@@ -10,13 +10,14 @@
 
 namespace tarn {
 
+void socketsfailed(int error) {
+  printf("WSAStartup failed: %d\n", error);
+  exit(-1);
+}
+
 void hoststart() {
   systemstart();
-  int error = netstart();
-  if (error != 0) {
-    printf("WSAStartup failed: %d\n", error);
-    exit(-1);
-  }
+  if (int error = netstart(); error != 0) socketsfailed(error);
   hostinstall();
 }
 

@@ -7,4 +7,7 @@ namespace tarn {
 // library does not start, the process ends with its words and the status -1.
 void hoststart();
 
+// Those words and that end, for an error number of the socket library.
+[[noreturn]] void socketsfailed(int error);
+
 }  // namespace tarn

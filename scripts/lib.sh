@@ -40,3 +40,4 @@ build() {
 
 tobuild=(g++ cmake ninja-build)
 totest=("${tobuild[@]}" libgtest-dev libgmock-dev libbenchmark-dev libvterm-dev)
+towindows=("${totest[@]}" g++-mingw-w64-x86-64-posix googletest wine wine64)

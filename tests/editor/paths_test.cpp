@@ -83,5 +83,19 @@ TEST_F(Paths, Parentdir) {
   EXPECT_EQ(parentdir("."), "");
 }
 
+TEST_F(Paths, DrivelesspathTurnsTheSlashes) {
+  EXPECT_EQ(drivelesspath("C:\\a\\b"), "/a/b/");
+  EXPECT_EQ(drivelesspath("C:\\"), "/");
+  EXPECT_EQ(drivelesspath("z:\\a\\"), "/a/");
+  EXPECT_EQ(drivelesspath("C:\\a/b c"), "/a/b c/");
+}
+
+TEST_F(Paths, DrivelesspathFailsOnNoDrive) {
+  for (const char* told : {"", "C", "C:", "C:a", "C:/a", "1:\\a", "[:\\a", "@:\\a", "\xC3:\\a",
+                           "\\\\there\\a", "/a/b"}) {
+    EXPECT_FAILS(drivelesspath(told), "editor/paths.cpp") << told;
+  }
+}
+
 }  // namespace
 }  // namespace tarn

@@ -245,20 +245,27 @@ TEST(Numb, TheOrderGoesByTheUnitsBit) {
 
 // --- The trace -----------------------------------------------------------------------------------
 
-std::string bugfile() {
-  std::ifstream in("/tmp/both.bug");
+// What was appended to the file behind its first bytes.
+std::string bugfile(std::streamoff from) {
+  std::ifstream in("/tmp/both.bug", std::ios::binary);
+  in.seekg(from);
   std::stringstream text;
-  text << in.rdbuf();
+  if (in) text << in.rdbuf();
   return text.str();
+}
+
+std::streamoff bugfilesize() {
+  std::ifstream in("/tmp/both.bug", std::ios::binary | std::ios::ate);
+  return in ? static_cast<std::streamoff>(in.tellg()) : 0;
 }
 
 // The work appends exactly these lines. Other processes may add theirs in between: then once more.
 template <typename Work>
 bool traces(const std::string& lines, Work work) {
-  for (int attempt = 0; attempt < 100; attempt++) {
-    size_t before = bugfile().size();
+  for (int attempt = 0; attempt < 1000; attempt++) {
+    std::streamoff before = bugfilesize();
     work();
-    if (bugfile().substr(before) == lines) return true;
+    if (bugfile(before) == lines) return true;
   }
   return false;
 }

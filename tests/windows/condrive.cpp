@@ -6,6 +6,7 @@
 //   size W H           sets the console to W by H, before the start       ok
 //   start COMMAND      starts the program on this console                 ok
 //   key VK CTL REP     queues a key pressed REP times, and let go         ok
+//   burst VK N         queues N presses of a key at once                  ok
 //   up VK              queues a key let go                                ok
 //   window W H         queues a new size of the window                    ok
 //   modes              tells the console's modes                          modes IN OUT
@@ -22,6 +23,7 @@
 #include <string.h>
 
 #include <string>
+#include <vector>
 
 static HANDLE conin, conout, pipeout, child;
 static std::string got;  // what the program wrote since the last answer
@@ -114,14 +116,24 @@ static void start(const char* command) {
   child = process.hProcess;
 }
 
-static void putkey(int key, int control, int repeat, bool down) {
+static INPUT_RECORD keyrecord(int key, int control, int repeat, bool down) {
   INPUT_RECORD record = {};
   record.EventType = KEY_EVENT;
   record.Event.KeyEvent.bKeyDown = down;
   record.Event.KeyEvent.wRepeatCount = static_cast<WORD>(repeat);
   record.Event.KeyEvent.wVirtualKeyCode = static_cast<WORD>(key);
   record.Event.KeyEvent.dwControlKeyState = static_cast<DWORD>(control);
+  return record;
+}
+
+static void putkey(int key, int control, int repeat, bool down) {
+  INPUT_RECORD record = keyrecord(key, control, repeat, down);
   put(&record, 1);
+}
+
+static void putburst(int key, int n) {
+  std::vector<INPUT_RECORD> records(static_cast<size_t>(n), keyrecord(key, 0, 1, true));
+  put(records.data(), static_cast<DWORD>(n));
 }
 
 static void putwindow(int columns, int rows) {
@@ -193,6 +205,8 @@ static bool answer(const char* command) {
   } else if (sscanf(command, "key %d %d %d", &x, &y, &z) == 3) {
     putkey(x, y, z, true);
     putkey(x, y, 1, false);
+  } else if (sscanf(command, "burst %d %d", &x, &y) == 2) {
+    putburst(x, y);
   } else if (sscanf(command, "up %d", &x) == 1) {
     putkey(x, 0, 1, false);
   } else if (sscanf(command, "window %d %d", &x, &y) == 2) {

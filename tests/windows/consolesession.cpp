@@ -160,6 +160,10 @@ void ConsoleSession::key(int virtualkey, unsigned control, int repeat) {
       std::to_string(repeat));
 }
 
+void ConsoleSession::burst(int virtualkey, int n) {
+  ask("burst " + std::to_string(virtualkey) + " " + std::to_string(n));
+}
+
 void ConsoleSession::letgo(int virtualkey) { ask("up " + std::to_string(virtualkey)); }
 
 void ConsoleSession::type(const std::string& bytes) {

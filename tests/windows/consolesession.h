@@ -25,6 +25,7 @@ struct ConsoleSession {
 
   // Queue records; they are handled by the next settle.
   void key(int virtualkey, unsigned control = 0, int repeat = 1);
+  void burst(int virtualkey, int n);  // n presses, in one go
   void letgo(int virtualkey);
   void type(const std::string& bytes);  // by the keys of a US keyboard that give them
   void resize(int columns, int rows);
