@@ -21,6 +21,11 @@ if(TARN_SANITIZE)
   target_compile_options(tarn_flags INTERFACE -O1 -g -fno-omit-frame-pointer ${sanitizers})
   target_link_options(tarn_flags INTERFACE ${sanitizers})
 endif()
+option(TARN_FUZZ "Build the targets for libFuzzer, with clang" OFF)
+if(TARN_FUZZ)
+  target_compile_options(tarn_flags INTERFACE
+    -O2 -fsanitize=fuzzer-no-link -fno-sanitize-coverage=trace-cmp)  # comparing costs a third
+endif()
 option(TARN_COVERAGE "Count the lines and branches that run" OFF)
 if(TARN_COVERAGE)
   target_compile_options(tarn_flags INTERFACE --coverage -O0)

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <string>
 
+#include "graph/cell.h"
+
 namespace tarn {
 
 // Hands in the builtins that a wild program may use: all but those that reach out of the language,
@@ -15,6 +17,9 @@ void fuzzinstall();
 // steps. A crash is for the sanitizers to tell; a cell that is lost, a tidy text that is not tidy,
 // and a report without words end the process here.
 void fuzzprogram(const std::string& text);
+
+// Whether a term is short enough to show. A small graph can be an endless text.
+bool isprintable(Cell* term);
 
 // A program out of the numbers that `next` gives: tokens of the language for the most part in an
 // order that parses, now and then with some bytes spoiled.

@@ -1,0 +1,11 @@
+// Any bytes as the text of a program.
+#include "fuzz/language.h"
+#include "fuzz/target.h"
+
+namespace tarn {
+
+void targetstart() { fuzzinstall(); }
+void targetrun(const std::string& input) { fuzzprogram(input); }
+std::string targetmade(uint64_t (*next)()) { return fuzztext(next); }
+
+}  // namespace tarn
