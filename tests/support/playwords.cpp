@@ -144,7 +144,7 @@ void dokeys(Play& p, std::string rest) {
 void dopaste(Play& p, std::string rest) {
   std::string text = readtext(rest, p.fault);
   replaceall(text, "\n", "\r");
-  p.session->keys(text);
+  p.session->paste(text);
   settle(p);
 }
 

@@ -194,6 +194,18 @@ void Session::keys(const std::string& bytes) {
   }
 }
 
+int64_t Session::bytesread() const {
+  std::string told = slurp("/proc/" + std::to_string(pid) + "/io");
+  size_t at = told.find("rchar: ");
+  return at == std::string::npos ? -1 : atoll(told.c_str() + at + strlen("rchar: "));
+}
+
+void Session::paste(const std::string& bytes) {
+  int64_t before = bytesread();
+  if (before >= 0) due = before + static_cast<int64_t>(bytes.size());
+  keys(bytes);
+}
+
 void Session::resize(int columns, int rows) {
   ask();
   terminal.resize(columns, rows);
@@ -251,6 +263,7 @@ bool Session::pump(int ms) {
 bool Session::idle() const {
   int unread = 0;
   if (ioctl(slave, FIONREAD, &unread) != 0 || unread > 0) return false;
+  if (due > 0 && bytesread() < due) return false;
   Doing doing = doingof(pid);
   return doing.asleep && (!asked || doing.sleeps > sleeps) && !terminal.log.empty();
 }

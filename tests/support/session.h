@@ -39,6 +39,9 @@ struct Session {
 
   // Types the bytes. They reach the program in one piece up to about 200 of them.
   void keys(const std::string& bytes);
+  // Types any number of bytes, none of which is a signal: what the system still holds of them, where
+  // no one sees it, is waited for as well.
+  void paste(const std::string& bytes);
   void resize(int columns, int rows);
   void signal(int number);
   void hangup();  // closes the terminal under the program
@@ -76,7 +79,9 @@ struct Session {
   bool oldbackspace;
   int64_t sleeps = 0;  // how often the program had gone to sleep before it was last asked
   bool asked = false;  // since then keys or a signal were sent
+  int64_t due = 0;     // how much the program will have read, by bytesread, after what was pasted
 
+  int64_t bytesread() const;  // from its terminal and from files; -1 where the system does not tell
   bool idle() const;
   void ask();
   bool reap();
