@@ -14,7 +14,7 @@
 
 #include "editor/commands.h"
 #include "editor/grid.h"
-#include "editor/listpaint.h"
+#include "editor/lists.h"
 #include "editor/paint.h"
 #include "editor/prompts.h"
 #include "editor/sheet.h"
@@ -50,7 +50,9 @@ Str pathofreversed(const Str& name) {
 // The height that `selected` counts by.
 static int64_t tabsheight = 0;
 
-static int64_t entrycount() { return static_cast<int64_t>(entries.size()); }
+// The first byte of each name that is shown.
+static int64_t entryshift = 0;
+
 static int64_t pagerows() { return tabsheight - 1; }
 static int64_t indexof(int64_t entry) {
   return entry / pagerows() * tabsheight + entry % pagerows() + 1;
@@ -78,21 +80,16 @@ static void painttabs() {
   followresize();
   listground("Tabs");
   int64_t first = firstofpage();
-  for (int64_t row = 1; row < height && first + row - 1 < entrycount(); row++) {
-    const Str& name = entries[static_cast<size_t>(first + row - 1)];
-    listfield(row, 0, width, shifted(name), row == selected % height);
+  for (int64_t row = 1; row < height && first + row - 1 < listcount(); row++) {
+    listfield(row, 0, width, shifted(listname(first + row - 1)), row == selected % height);
   }
   paintdiff(ontyped() ? typedcolumn() : 0, selected % height);
 }
 
 static void entertabs() {
-  entries.clear();
-  widest = 0;
-  for (const auto& [name, s] : sheets) {
-    entries.push_back(reversedname(name));
-    widest = std::max(widest, entries.back().len());
-  }
-  std::sort(entries.begin(), entries.end());
+  std::vector<Str> names;
+  for (const auto& [name, s] : sheets) names.push_back(reversedname(name));
+  listset(std::move(names));
   selected = 0;
   entryshift = 0;
   tabsheight = height;
@@ -100,31 +97,24 @@ static void entertabs() {
   setstat("");
 }
 
-// The first entry that begins with the text, or null.
-static const Str* findentry(const Str& text) {
-  auto found = std::lower_bound(entries.begin(), entries.end(), text);
-  if (found == entries.end() || !(found->substr(0, text.len()) == text)) return nullptr;
-  return &*found;
-}
-
 static void picktyped() {
   Str path = pathofreversed(stat);
   if (sheets.contains(path)) return switchbuffer(path);
-  const Str* found = findentry(stat);
-  if (found == nullptr) return chirp();
-  setstat(*found);
+  int64_t found = listfind(stat);
+  if (found < 0) return chirp();
+  setstat(listname(found));
 }
 
 static void pick() {
   followresize();
   if (ontyped()) return picktyped();
-  switchbuffer(pathofreversed(entries[static_cast<size_t>(pickedentry())]));
+  switchbuffer(pathofreversed(listname(pickedentry())));
 }
 
 static void typetabs(uint8_t key) {
   Str typed = stat + strbyte(key);
   selected = 0;
-  if (findentry(typed) == nullptr) return chirp();
+  if (listfind(typed) < 0) return chirp();
   setstat(typed);
 }
 
@@ -136,7 +126,7 @@ static void previousentry() {
 
 static void nextentry() {
   followresize();
-  if (selected == indexof(entrycount() - 1)) return chirp();
+  if (selected == indexof(listcount() - 1)) return chirp();
   selected++;
 }
 
@@ -146,7 +136,7 @@ static void topofpage() {
 }
 
 static void shiftright() {
-  if (entryshift + 1 >= widest) return chirp();
+  if (entryshift + 1 >= listwidth()) return chirp();
   entryshift++;
 }
 
@@ -163,10 +153,6 @@ static constexpr PromptKey tabskeys[] = {
     {"\x0E"sv, nextentry},      // C-n
     {"\x06"sv, shiftright},     // C-f
     {"\x02"sv, shiftleft},      // C-b
-    {"\x1B[A"sv, previousentry},
-    {"\x1B[B"sv, nextentry},
-    {"\x1B[C"sv, shiftright},
-    {"\x1B[D"sv, shiftleft},
     {"\x1Br"sv, redink},
     {"\x1Bg"sv, greenink},
     {"\x1By"sv, yellowink},

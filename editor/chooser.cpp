@@ -10,9 +10,9 @@
 
 #include "editor/commands.h"
 #include "editor/directory.h"
-#include "editor/history.h"
 #include "editor/grid.h"
-#include "editor/listpaint.h"
+#include "editor/history.h"
+#include "editor/lists.h"
 #include "editor/paint.h"
 #include "editor/paths.h"
 #include "editor/prompts.h"
@@ -40,41 +40,40 @@ Str chooserpath(const Str& text) {
 // The list.
 
 static bool saving = false;  // which of the two prompts it is; Save lists directories only
+static Str listed = "/";     // the directory listed, with "/" at its end
 
 // Lists a directory, which ends in "/", and picks its first entry; the bell if it cannot be read.
 // On purpose "../" comes before "./": all entries are sorted alike.
 static void listdirectory(const Str& path) {
-  chooserdir = path;
+  listed = path;
   selected = 0;
-  entries = {"./"};
-  if (path != "/") entries.push_back("../");
+  std::vector<Str> names = {"./"};
+  if (path != "/") names.push_back("../");
   std::vector<DirectoryEntry> found;
   if (!readdirectory(path, found)) chirp();
   for (const DirectoryEntry& entry : found) {
-    if (entry.isdirectory) entries.push_back(entry.name + "/");
-    if (!entry.isdirectory && !saving) entries.push_back(entry.name);
+    if (entry.isdirectory) names.push_back(entry.name + "/");
+    if (!entry.isdirectory && !saving) names.push_back(entry.name);
   }
-  std::sort(entries.begin(), entries.end());
-  widest = 0;
-  for (const Str& entry : entries) widest = std::max(widest, entry.len());
+  listset(std::move(names));
 }
 
-static int64_t entrycount() { return static_cast<int64_t>(entries.size()); }
 static int64_t columnrows() { return height - 1; }
-static int64_t pagecolumns() { return std::max<int64_t>(1, (width + 1) / (widest + 1)); }
+static int64_t columnwidth() { return listwidth() + 1; }
+static int64_t pagecolumns() { return std::max<int64_t>(1, (width + 1) / columnwidth()); }
 static int64_t pagesize() { return columnrows() * pagecolumns(); }
 
 static void paintlist(const char* word) {
   if (deferpaint()) return;
   listground(word);
   int64_t first = selected / pagesize() * pagesize();
-  int64_t last = std::min(entrycount(), first + pagesize());
+  int64_t last = std::min(listcount(), first + pagesize());
   for (int64_t i = first; i < last; i++) {
     int64_t column = (i - first) / columnrows();
     bool atedge = column == pagecolumns() - 1;
-    int64_t columns = atedge ? width - column * (widest + 1) : widest + 1;
-    listfield(1 + (i - first) % columnrows(), column * (widest + 1), columns,
-              entries[static_cast<size_t>(i)], i == selected);
+    int64_t col = column * columnwidth();
+    listfield(1 + (i - first) % columnrows(), col, atedge ? width - col : columnwidth(),
+              listname(i), i == selected);
   }
   paintdiff(0, 1 + (selected - first) % columnrows());
 }
@@ -87,21 +86,21 @@ static void paintsave() { paintlist("Save"); }
 
 static void pick(int64_t entry) {
   selected = entry;
-  setstat(chooserpath(chooserdir + entries[static_cast<size_t>(entry)]));
+  setstat(chooserpath(listed + listname(entry)));
 }
 
-static void previousentry() { pick(selected == 0 ? entrycount() - 1 : selected - 1); }
-static void nextentry() { pick(selected == entrycount() - 1 ? 0 : selected + 1); }
+static void previousentry() { pick(selected == 0 ? listcount() - 1 : selected - 1); }
+static void nextentry() { pick(selected == listcount() - 1 ? 0 : selected + 1); }
 
 static void nextcolumn() {
-  if (selected + columnrows() < entrycount()) pick(selected + columnrows());
+  if (selected + columnrows() < listcount()) pick(selected + columnrows());
 }
 
 static void previouscolumn() {
   if (selected - columnrows() >= 0) pick(selected - columnrows());
 }
 
-static void nextpage() { pick(std::min(entrycount() - 1, selected + pagesize())); }
+static void nextpage() { pick(std::min(listcount() - 1, selected + pagesize())); }
 static void previouspage() { pick(std::max<int64_t>(0, selected - pagesize())); }
 
 static void typepath(uint8_t key) { setstat(stat + strbyte(key)); }
@@ -206,10 +205,6 @@ static constexpr PromptKey chooserkeys[] = {
     {"\x02"sv, previouscolumn},  // C-b
     {"\x04"sv, nextpage},        // C-d
     {"\x15"sv, previouspage},    // C-u
-    {"\x1B[A"sv, previousentry},
-    {"\x1B[B"sv, nextentry},
-    {"\x1B[C"sv, nextcolumn},
-    {"\x1B[D"sv, previouscolumn},
 };
 static constexpr Prompt openprompt = {2, enteropen, chooserkeys, typepath, replay};
 static constexpr Prompt saveprompt = {2, entersave, chooserkeys, typepath, replay};

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "editor/commands.h"
+#include "editor/keys.h"
 #include "editor/state.h"
 #include "editor/status.h"
 
@@ -103,24 +104,14 @@ static void runrow(const KeyRow& row) {
   runplain(row.command);
 }
 
-// The command of an arrow, by the final byte of its control sequence; null for any other.
-static void (*arrowcommand(uint8_t last))() {
-  switch (last) {
-    case 'A': return tarndocp;
-    case 'B': return tarndocn;
-    case 'C': return tarndocf;
-    case 'D': return tarndocb;
-    default: return nullptr;
-  }
-}
-
-// ESC "[" and what follows: an arrow, or nothing that means something here.
+// ESC "[" and what follows: an arrow, which is the control key that moves the same way, or nothing
+// that means something here.
 static void runsequence() {
   uint8_t last = line.at(line.len() - 1);
-  void (*command)() = arrowcommand(last);
-  if (command != nullptr) {
+  uint8_t control = arrowcontrol(last);
+  if (control != 0) {
     killchain = true;
-    return runplain(command);
+    return runplain(keytable[controlrows[control]].command);
   }
   painted = true;
   // On purpose: keys whose last byte ends no sequence stay pending, until a letter comes.
@@ -134,7 +125,7 @@ static void runother() {
   if (n > 2 && keys[0] == esc && keys[1] == '[') return runsequence();
   uint8_t key = n == 1 ? keys[0] : 0;
   line = Str();
-  if (key == '\n' || (key >= 0x20 && key <= 0x7E)) {
+  if (istyped(key)) {
     killchain = true;
     tarntype(key);
   } else if (key == 0x7F) {

@@ -3,15 +3,11 @@
 
 #include <cstring>
 
+#include "editor/digits.h"
 #include "editor/history.h"
 #include "editor/window.h"
 
 namespace tarn {
-
-void setpoint(sheet& s, int64_t i) {
-  check(i >= 0 && i <= size(s));
-  s.point = static_cast<int32_t>(i);
-}
 
 bool carry(opertype w, int64_t t, const Str& data) {
   enteroper(opermake(w, t, data));
@@ -135,36 +131,28 @@ void undocut(sheet& s, const oper& o) { putin(s, opert(o), o.data); }
 
 // ---- A run of one byte. The data is its length in decimal digits, then the byte.
 
-// The value of decimal digits; beyond every text, they count as one byte more than the largest.
-static int64_t decimal(const uint8_t* digits, int64_t n) {
-  int64_t value = 0;
-  for (int64_t i = 0; i < n; i++) {
-    check(digits[i] >= '0' && digits[i] <= '9');
-    value = value * 10 + (digits[i] - '0');
-    if (value > sizelimit) value = sizelimit + 1;
-  }
-  return value;
-}
+// What is beyond every text counts as one byte more than the largest.
+static int64_t runlength(const Str& digits) { return decimalvalue(digits, sizelimit + 1); }
 
 bool oprun(const Str& digits, uint8_t byte) {
   const sheet& s = currentsheet();
-  int64_t count = decimal(digits.bytes(), digits.len());
+  int64_t count = runlength(digits);
   if (count == 0 || !fits(s, count)) return false;
   return carry(opran, s.point, digits + strbyte(byte));
 }
 
-static int64_t runcount(const oper& o) {
+static int64_t storedlength(const oper& o) {
   check(o.data.len() >= 2);
-  return decimal(o.data.bytes(), o.data.len() - 1);
+  return runlength(o.data.substr(0, o.data.len() - 1));
 }
 
 void todoran(sheet& s, const oper& o) {
-  int64_t count = runcount(o);
+  int64_t count = storedlength(o);
   Str run = strsized(count);
   memset(run.own(), o.data.at(o.data.len() - 1), static_cast<size_t>(count));
   putin(s, opert(o), run);
 }
 
-void undoran(sheet& s, const oper& o) { takeout(s, opert(o), runcount(o)); }
+void undoran(sheet& s, const oper& o) { takeout(s, opert(o), storedlength(o)); }
 
 }  // namespace tarn

@@ -29,9 +29,6 @@ void todosorted(sheet& s, const oper& o);  void undosorted(sheet& s, const oper&
 // Enters an oper at t in the current buffer and carries it out; true.
 bool carry(opertype w, int64_t t, const Str& data);
 
-// Puts the point at i, 0 to the size.
-void setpoint(sheet& s, int64_t i);
-
 // Whether the text can grow by that many bytes.
 bool fits(const sheet& s, int64_t more);
 

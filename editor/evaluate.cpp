@@ -1,5 +1,4 @@
-// The commands where the editor meets the language: Escape-e evaluates a text, Escape-v sorts its
-// definitions.
+// Eval: hands the text to the language and shows the result. Only this command evaluates.
 #include <algorithm>
 #include <cstdio>
 #include <string>
@@ -7,9 +6,9 @@
 #include "editor/commands.h"
 #include "editor/console.h"
 #include "editor/grid.h"
-#include "editor/history.h"
 #include "editor/paint.h"
 #include "editor/prompts.h"
+#include "editor/selection.h"
 #include "editor/sheet.h"
 #include "editor/state.h"
 #include "editor/status.h"
@@ -17,20 +16,11 @@
 #include "foundation/alphabet.h"
 #include "foundation/diag.h"
 #include "foundation/place.h"
-#include "frontend/brackets.h"
 #include "frontend/driver.h"
-#include "host/builtintable.h"
 
 namespace tarn {
 
 using namespace std::literals;
-
-// Sets the language up, the first time that it is needed: most sessions never do.
-static void needlanguage() {
-  static bool ready = false;
-  if (!ready) hostinstall();
-  ready = true;
-}
 
 static void write(const std::string& bytes) {
   consolewrite(bytes.data(), static_cast<int64_t>(bytes.size()));
@@ -58,18 +48,15 @@ static void showresult(sheet& s, const Evaluation& result) {
   int64_t offset = 0;
   setstat(result.shown);
   if (result.ok || !toldplace(result.place, size(s), offset)) return;
-  s.point = static_cast<int32_t>(offset);
-  showpoint(s);
+  movepoint(s, offset);
 }
 
 static void entereval() {
   write("\x1B[1;1H\x1B[J\x1B[mEval\n"s);
   sheet& s = currentsheet();
-  int64_t from = mark < 0 ? 0 : std::min<int64_t>(mark, s.point);
-  int64_t to = mark < 0 ? size(s) : std::max<int64_t>(mark, s.point);
+  Range range = selectionorall(s);
   mark = -1;
-  needlanguage();
-  showresult(s, evaluate(stretch(s, from, to), from));
+  showresult(s, evaluate(stretch(s, range.low, range.high), range.low));
   flash();
   repaint = painteval;
 }
@@ -77,23 +64,5 @@ static void entereval() {
 static constexpr Prompt evalprompt = {2, entereval, {}, nullptr, replay};
 
 void tarndome() { runprompt(evalprompt); }
-
-static void paintvows() { paintsheet("Vows"); }
-
-void tarndomv() {
-  sheet& s = currentsheet();
-  Report report;
-  int64_t place = 0;
-  if (bracketcheck(flatten(s), 0, report, place)) {
-    needlanguage();
-    opsort();
-    return leave();
-  }
-  s.point = static_cast<int32_t>(place);
-  showpoint(s);
-  setstat(report.message);
-  repaint = paintvows;
-  showsfault = true;
-}
 
 }  // namespace tarn

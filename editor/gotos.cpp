@@ -1,7 +1,6 @@
 // The prompts that go to a place told by number: Byte and Line.
-#include <algorithm>
-
 #include "editor/commands.h"
+#include "editor/digits.h"
 #include "editor/paint.h"
 #include "editor/prompts.h"
 #include "editor/reader.h"
@@ -16,8 +15,7 @@ namespace tarn {
 using namespace std::literals;
 
 static void jump(sheet& s, int64_t to) {
-  s.point = static_cast<int32_t>(to);
-  showpoint(s);
+  movepoint(s, to);
   leave();
 }
 

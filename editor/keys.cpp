@@ -1,8 +1,6 @@
 // The translation of key presses, and the end of keys.
 #include "editor/keys.h"
 
-#include <cstring>
-
 namespace tarn {
 
 // What a key of the keyboard types. A row with `last` stands for the virtual keys from `key` to
@@ -72,6 +70,16 @@ KeyText translate(const KeyPress& press) {
     return onekey((press.control & pressedshift ? row.shifted : row.plain)[key - row.key]);
   }
   return {};
+}
+
+uint8_t arrowcontrol(uint8_t last) {
+  switch (last) {
+    case 'A': return 0x10;
+    case 'B': return 0x0E;
+    case 'C': return 0x06;
+    case 'D': return 0x02;
+    default: return 0;
+  }
 }
 
 // The state behind a byte that begins a key.

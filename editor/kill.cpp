@@ -1,9 +1,8 @@
 // What fills the cut buffer, and the paste that empties it into a text.
-#include <algorithm>
-
 #include "editor/commands.h"
 #include "editor/history.h"
 #include "editor/reader.h"
+#include "editor/selection.h"
 #include "editor/sheet.h"
 #include "editor/state.h"
 #include "editor/status.h"
@@ -29,13 +28,12 @@ static const Str& joinedclip() {
 
 // Cuts the selection, leaving the point where it began.
 static void killselection(sheet& s) {
-  int64_t from = std::min<int64_t>(mark, s.point);
-  int64_t to = std::max<int64_t>(mark, s.point);
+  Range cut = selection(s);
   mark = -1;
   setstat(currentname);
-  if (from == to) return chirp();
-  setclip(stretch(s, from, to));
-  s.point = static_cast<int32_t>(from);
+  if (cut.low == cut.high) return chirp();
+  setclip(stretch(s, cut.low, cut.high));
+  setpoint(s, cut.low);
   opdelete(clip);
 }
 

@@ -1,11 +1,6 @@
-// Searching. A pattern is a text in which some letters stand for classes of bytes: a small letter
-// matches either case and a capital never matches just itself; bytes that do not print match
-// through the letter that they fold to.
-//
-//   R  a name letter      T  a digit            F  anything
-//   G  \ ;                I  & |                J  < = > #          L  + - . ;
-//   M  % ' * /            N  ^ ? @              O  ! " $ ` ~        P  ( ) [ ] { }
-//   Q  any symbol         the other capitals: see match.cpp
+// Searching. A pattern is a text whose bytes stand for classes of bytes (charmatch.h). It is matched
+// against all places of a text at once by a word of bits, and where its classes allow that, most of
+// the text is passed over by two quick tests.
 #pragma once
 
 #include <cstdint>
@@ -16,9 +11,6 @@
 namespace tarn {
 
 inline constexpr int64_t patternlimit = 63;  // bytes; with the empty prefix the 64 bits of a word
-
-// Whether one pattern byte matches a byte of a text.
-bool charmatch(uint8_t p, uint8_t b);
 
 // Tests one position of a pattern on many bytes at once: byte b can match there only if
 // (b & masks[i]) == values[i] for one of the two pairs, or if it is 128 or more. That lets through

@@ -13,11 +13,6 @@
 
 namespace tarn {
 
-static void movepoint(sheet& s, int64_t to) {
-  s.point = static_cast<int32_t>(to);
-  showpoint(s);
-}
-
 void tarndoca() {
   sheet& s = currentsheet();
   if (s.point == 0) return chirp();
@@ -88,7 +83,7 @@ void tarndocp() {
     next = row;
     row = previousrow(s, row);
   }
-  s.point = static_cast<int32_t>(inrow(s, row, column, next));
+  setpoint(s, inrow(s, row, column, next));
   if (cursoronly(s)) {
     Str sequence = movesequence(rows, s.point - row);
     consolewrite(sequence.bytes(), sequence.len());
@@ -103,9 +98,7 @@ void tarndocp() {
 static void movetop(sheet& s, int64_t to) { s.top = static_cast<int32_t>(to); }
 
 // Puts the point at `to`, or at the end of the text if that is before.
-static void clamppoint(sheet& s, int64_t to) {
-  s.point = static_cast<int32_t>(std::min(to, size(s)));
-}
+static void clamppoint(sheet& s, int64_t to) { setpoint(s, std::min(to, size(s))); }
 
 // A point that the window has left goes to its middle.
 static void keeppoint(sheet& s) {

@@ -9,6 +9,7 @@
 #include "editor/kink.h"
 #include "editor/pink.h"
 #include "editor/reader.h"
+#include "editor/selection.h"
 #include "editor/sheet.h"
 #include "editor/state.h"
 #include "foundation/diag.h"
@@ -68,22 +69,12 @@ static void drawstretch(Layout& l, const uint8_t* bytes, int64_t n, const Cell16
   }
 }
 
-struct Range {
-  int64_t low;
-  int64_t high;
-};
-
 static bool within(Range r, int64_t i) { return r.low <= i && i < r.high; }
 
 // The end of the stretch from i on, up to `stop`, that lies wholly within or without the range.
 static int64_t untilborder(Range r, int64_t i, int64_t stop) {
   if (i < r.low) return std::min(stop, r.low);
   return i < r.high ? std::min(stop, r.high) : stop;
-}
-
-static Range selection(const sheet& s) {
-  if (mark < 0) return {0, 0};
-  return {std::min<int64_t>(mark, s.point), std::max<int64_t>(mark, s.point)};
 }
 
 static Difference differenceat(const sheet& s, Range changed, int64_t i) {

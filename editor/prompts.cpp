@@ -7,7 +7,6 @@
 #include "editor/kink.h"
 #include "editor/state.h"
 #include "editor/status.h"
-#include "foundation/alphabet.h"
 
 namespace tarn {
 
@@ -30,11 +29,20 @@ static const PromptKey* findkey(std::span<const PromptKey> keys, std::string_vie
   return nullptr;
 }
 
-static void answer(const Prompt& prompt, std::string_view key) {
+// The key that an arrow stands for; any other key as it is.
+static Str unarrowed(const Str& key) {
+  bool sequence = key.len() > 2 && key.at(0) == 0x1B && key.at(1) == '[';
+  uint8_t control = sequence ? arrowcontrol(key.at(key.len() - 1)) : 0;
+  return control == 0 ? key : strbyte(control);
+}
+
+static void answer(const Prompt& prompt, const Str& pressed) {
+  Str kept = unarrowed(pressed);
+  std::string_view key = {kept.text(), static_cast<size_t>(kept.len())};
   if (const PromptKey* row = findkey(prompt.keys, key)) return row->act();
   if (const PromptKey* row = findkey(sharedkeys, key)) return row->act();
   uint8_t byte = static_cast<uint8_t>(key[0]);
-  bool typed = key.size() == 1 && (byte == '\n' || (byte >= 0x20 && byte <= 0x7E));
+  bool typed = key.size() == 1 && istyped(byte);
   if (typed && prompt.type != nullptr) return prompt.type(byte);
   prompt.other();
 }
@@ -42,8 +50,7 @@ static void answer(const Prompt& prompt, std::string_view key) {
 void runprompt(const Prompt& prompt) {
   if (line.len() == prompt.prefix) return prompt.enter();
   Str before = line;
-  Str key = line.substr(lastkey(line));
-  answer(prompt, {key.text(), static_cast<size_t>(key.len())});
+  answer(prompt, line.substr(lastkey(line)));
   // A key that ended the prompt has put something else in `line`.
   if (line.same(before)) line = line.substr(0, prompt.prefix);
 }
@@ -56,23 +63,5 @@ void dropstat() {
 void redink() { inkmode = 1; }
 void greenink() { inkmode = 2; }
 void yellowink() { inkmode = 3; }
-
-int64_t decimalvalue(const Str& digits, int64_t most) {
-  int64_t value = 0;
-  for (uint8_t digit : digits) {
-    value = value * 10 + (digit - '0');
-    if (value >= most) return most;
-  }
-  return value;
-}
-
-int64_t base64value(const Str& digits, int64_t most) {
-  int64_t value = 0;
-  for (uint8_t digit : digits) {
-    value = value * 64 + digitvalue(digit);
-    if (value >= most) return most;
-  }
-  return value;
-}
 
 }  // namespace tarn

@@ -39,9 +39,4 @@ void redink();
 void greenink();
 void yellowink();
 
-// The number that the digits of the field make; what is too large gives `most`. Bytes that are no
-// digits must not be in it.
-int64_t decimalvalue(const Str& digits, int64_t most);
-int64_t base64value(const Str& digits, int64_t most);
-
 }  // namespace tarn

@@ -64,12 +64,6 @@ static void paintmark() { paintsheet("Mark"); }
 
 // The parts of both.
 
-static void movepoint(int64_t to) {
-  sheet& s = currentsheet();
-  s.point = static_cast<int32_t>(to);
-  showpoint(s);
-}
-
 // Goes to the next match, or the one before. False, with the bell, if there is none or if the
 // search has come round.
 static bool searchon(bool forward) {
@@ -102,6 +96,8 @@ static void droppattern() {
 
 // Find.
 
+static int64_t origin = 0;  // the point at the start of the search
+
 static void enterfind() {
   origin = currentsheet().point;
   repaint = paintfind;
@@ -111,7 +107,7 @@ static void enterfind() {
 // The pattern takes no ink: its letters stand for classes.
 static void typefind(uint8_t key) { typepattern(key); }
 
-static void goorigin() { movepoint(origin); }
+static void goorigin() { movepoint(currentsheet(), origin); }
 
 static void cancelfind() {
   goorigin();
@@ -129,8 +125,8 @@ static void matchesbelow() {
   while (searchon(true) && currentsheet().point < bottom) {}
 }
 
-static void gostart() { movepoint(0); }
-static void goend() { movepoint(size(currentsheet())); }
+static void gostart() { movepoint(currentsheet(), 0); }
+static void goend() { movepoint(currentsheet(), size(currentsheet())); }
 
 static constexpr PromptKey findkeys[] = {
     {"\x14"sv, nextmatch},      // C-t
@@ -162,11 +158,6 @@ static void entermark() {
 
 static void typemark(uint8_t key) { typepattern(nopqchar(inkmode, key)); }
 
-static void cancelmark() {
-  mark = -1;
-  leave();
-}
-
 static void othermark() {
   mark = -1;
   replay();
@@ -178,7 +169,7 @@ static constexpr PromptKey markkeys[] = {
     {"\x1Bh"sv, previousmatch},
     {"\x7F"sv, droppattern},
     {"\x18"sv, tarndocx},       // C-x
-    {"\x07"sv, cancelmark},     // C-g
+    {"\x07"sv, leaveunmarked},     // C-g
     {"\x1Bx"sv, replay},        // the commands that take the selection
     {"\x1B" "e"sv, replay},
     {"\x1Bi"sv, replay},

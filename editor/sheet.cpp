@@ -118,6 +118,11 @@ bool ischanged(const sheet& s, int64_t i, uint8_t byte) {
   return size(s) != s.saved.len() || s.saved.bytes()[i] != byte;
 }
 
+void setpoint(sheet& s, int64_t i) {
+  check(i >= 0 && i <= size(s));
+  s.point = static_cast<int32_t>(i);
+}
+
 // ---- Changing.
 
 static void touch(sheet& s, int32_t from) {

@@ -89,6 +89,9 @@ void copybytes(const sheet& s, int64_t from, int64_t to, uint8_t* out);  // the 
 bool ischanged(const sheet& s, int64_t i);
 bool ischanged(const sheet& s, int64_t i, uint8_t byte);
 
+// Puts the point at i, 0 to the size; the window is not looked at.
+void setpoint(sheet& s, int64_t i);
+
 // The changes. Each lowers `touched` to where it begins, and keeps the difference bounds; none
 // looks at the window. The size limit is the caller's to test: more than 2^30 bytes are a program
 // fault.

@@ -30,12 +30,6 @@ Str cwdpath = "/";
 Str dotname = ".";
 int64_t starttime = 0;
 
-std::vector<Str> entries;
-int64_t widest = 0;
 int64_t selected = 0;
-int64_t entryshift = 0;
-Str chooserdir = "/";
-
-int64_t origin = 0;
 
 }  // namespace tarn

@@ -4,7 +4,6 @@
 #pragma once
 
 #include <cstdint>
-#include <vector>
 
 #include "foundation/str.h"
 
@@ -42,13 +41,6 @@ extern Str cwdpath;        // the working directory; begins and ends with "/"
 extern Str dotname;        // ".", the name of the scratch buffer
 extern int64_t starttime;  // seconds, the seed of the temporary names
 
-// The lists of the buffer list and of the file prompts: one prompt at a time owns them.
-extern std::vector<Str> entries;  // the names listed, in the order shown
-extern int64_t widest;            // the longest of them, in bytes
-extern int64_t selected;          // the row or entry picked; its meaning is the prompt's own
-extern int64_t entryshift;        // the first byte of each name shown
-extern Str chooserdir;            // the directory listed, with "/" at its end; in Swap the old text
-
-extern int64_t origin;  // the point at the start of a search
+extern int64_t selected;  // the row or entry picked in a list; its meaning is the prompt's own
 
 }  // namespace tarn

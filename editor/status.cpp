@@ -26,6 +26,11 @@ void leave() {
   repaint = paintfile;
 }
 
+void leaveunmarked() {
+  mark = -1;
+  leave();
+}
+
 void switchbuffer(const Str& name) {
   currentname = name;
   aligntop(currentsheet());

@@ -15,6 +15,9 @@ void chirp();
 // paintfile. Nothing is painted, as dispatch does that behind every command.
 void leave();
 
+// Leaves, and ends the selection.
+void leaveunmarked();
+
 // Leaves, and lets the plain painter have its effects on the state, as if it had painted; the paint
 // itself is owed.
 void leaveunpainted();

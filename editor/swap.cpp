@@ -1,11 +1,10 @@
 // Swap: replaces one text by another, in the selection or everywhere. The first text is typed under
 // the word "Swap", the second under "With".
-#include <algorithm>
-
 #include "editor/commands.h"
 #include "editor/history.h"
 #include "editor/paint.h"
 #include "editor/prompts.h"
+#include "editor/selection.h"
 #include "editor/sheet.h"
 #include "editor/state.h"
 #include "editor/status.h"
@@ -15,6 +14,8 @@ namespace tarn {
 
 using namespace std::literals;
 
+static Str oldtext;  // what is to be replaced; under the word "With"
+
 static void paintswap() { paintsheet("Swap"); }
 static void paintwith() { paintsheet("With"); }
 
@@ -23,25 +24,18 @@ static void enterswap() {
   setstat("");
 }
 
-static void leaveswap() {
-  mark = -1;
-  leave();
-}
-
 // Both texts are inked, so that a replacement can change the colour of a word.
 static void typeswap(uint8_t key) { setstat(stat + strbyte(nopqchar(inkmode, key))); }
 
 static void replaceall() {
-  const sheet& s = currentsheet();
-  int64_t from = mark < 0 ? 0 : std::min<int64_t>(mark, s.point);
-  int64_t to = mark < 0 ? size(s) : std::max<int64_t>(mark, s.point);
-  if (!opreplace(from, to, chooserdir, stat)) chirp();
-  leaveswap();
+  Range range = selectionorall(currentsheet());
+  if (!opreplace(range.low, range.high, oldtext, stat)) chirp();
+  leaveunmarked();
 }
 
 static void endfield() {
   if (repaint == paintwith) return replaceall();
-  chooserdir = stat;
+  oldtext = stat;
   repaint = paintwith;
   setstat("");
 }
@@ -49,7 +43,7 @@ static void endfield() {
 static constexpr PromptKey swapkeys[] = {
     {"\t"sv, endfield},
     {"\x7F"sv, dropstat},
-    {"\x07"sv, leaveswap},  // C-g
+    {"\x07"sv, leaveunmarked},  // C-g
     {"\x1Br"sv, redink},
     {"\x1Bg"sv, greenink},
     {"\x1By"sv, yellowink},

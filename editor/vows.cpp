@@ -1,14 +1,23 @@
-// Sorting definitions: only their order changes, each keeps its own bytes, white space and all.
+// Vows: puts the definitions of a program in the order of their names. Only their order changes,
+// each keeps its own bytes, white space and all.
 #include "editor/vows.h"
 
 #include <algorithm>
 #include <vector>
 
+#include "editor/commands.h"
+#include "editor/history.h"
+#include "editor/paint.h"
+#include "editor/sheet.h"
+#include "editor/state.h"
+#include "editor/status.h"
+#include "editor/window.h"
 #include "foundation/alphabet.h"
 #include "foundation/strbuilder.h"
 #include "frontend/brackets.h"
 #include "frontend/parser.h"
 #include "frontend/program.h"
+#include "frontend/report.h"
 #include "frontend/tidy.h"
 
 namespace tarn {
@@ -34,6 +43,25 @@ Str vowsort(const Str& text) {
   StrBuilder* sorted = StrBuilder::add(nullptr, text.substr(0, cuts[0]));
   for (const Vow& vow : vows) sorted = StrBuilder::add(sorted, vow.piece);
   return StrBuilder::take(StrBuilder::add(sorted, text.substr(cuts[next])));
+}
+
+// --- The command ---------------------------------------------------------------------------------
+
+static void paintvows() { paintsheet("Vows"); }
+
+static void showfault(const Report& report, int64_t place) {
+  movepoint(currentsheet(), place);
+  setstat(report.message);
+  repaint = paintvows;
+  showsfault = true;
+}
+
+void tarndomv() {
+  Report report;
+  int64_t place = 0;
+  if (!bracketcheck(flatten(currentsheet()), 0, report, place)) return showfault(report, place);
+  opsort();
+  leave();
 }
 
 }  // namespace tarn

@@ -89,6 +89,11 @@ void showpoint(sheet& s) {
   if (!pointshows(s)) recentre(s);
 }
 
+void movepoint(sheet& s, int64_t to) {
+  setpoint(s, to);
+  showpoint(s);
+}
+
 void aligntop(sheet& s) {
   int64_t top = std::min<int64_t>(s.top, size(s));
   int64_t from = std::max<int64_t>(0, top - linesearch);

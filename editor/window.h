@@ -12,6 +12,9 @@ struct sheet;
 // Keeps the window if the point is in it, else recentres. The sheet must be one in `sheets`.
 void showpoint(sheet& s);
 
+// Puts the point at `to`, 0 to the size inclusive, and keeps it in the window.
+void movepoint(sheet& s, int64_t to);
+
 // Whether the point is in the window.
 bool pointshows(sheet& s);
 

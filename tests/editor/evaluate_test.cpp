@@ -8,6 +8,7 @@
 #include "editor/grid.h"
 #include "editor/paint.h"
 #include "editor/state.h"
+#include "host/builtintable.h"
 #include "tests/editor/buffer.h"
 
 namespace tarn {
@@ -15,6 +16,7 @@ namespace {
 
 struct Evaluate : testing::Test {
   Evaluate() {
+    hostinstall();
     width = 10;
     height = 3;
     gridreset();

@@ -1,7 +1,9 @@
 // The numbers typed at prompts.
-#include "editor/prompts.h"
+#include "editor/digits.h"
 
 #include <gtest/gtest.h>
+
+#include "tests/support/death.h"
 
 namespace tarn {
 namespace {
@@ -22,6 +24,11 @@ TEST(Base64Value, StopsAtTheMost) {
   EXPECT_EQ(base64value("a_", 100000), 64);
   EXPECT_EQ(base64value("bu", 100000), 2 * 64 + 19);  // r, u, s, t are 18 to 21
   EXPECT_EQ(base64value("~~~~~~~~~~~~~~~~~~~~~~~", 100000), 100000);
+}
+
+TEST(DigitsDeathTest, NothingButDigits) {
+  EXPECT_FAILS(decimalvalue("1a", 100), "editor/digits.cpp");
+  EXPECT_FAILS(base64value("a b", 100000), "foundation/alphabet.cpp");
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
-// The painter of lists.
-#include "editor/listpaint.h"
+// The list of names that a prompt shows, and how it is painted.
+#include "editor/lists.h"
 
 #include <algorithm>
 
@@ -10,6 +10,26 @@
 #include "editor/state.h"
 
 namespace tarn {
+
+static std::vector<Str> entries;
+static int64_t widest = 0;
+
+void listset(std::vector<Str> names) {
+  entries = std::move(names);
+  std::sort(entries.begin(), entries.end());
+  widest = 0;
+  for (const Str& name : entries) widest = std::max(widest, name.len());
+}
+
+int64_t listcount() { return static_cast<int64_t>(entries.size()); }
+const Str& listname(int64_t entry) { return entries[static_cast<size_t>(entry)]; }
+int64_t listwidth() { return widest; }
+
+int64_t listfind(const Str& text) {
+  auto found = std::lower_bound(entries.begin(), entries.end(), text);
+  bool begins = found != entries.end() && found->substr(0, text.len()) == text;
+  return begins ? found - entries.begin() : -1;
+}
 
 void listground(const char* word) {
   Cell16* grid = drawngrid();
