@@ -78,7 +78,9 @@ void typemany(benchmark::State& state) {
     state.PauseTiming();
     Bench* bench = new Bench(state);
     state.ResumeTiming();
-    for (int i = 0; i < 100000; i++) opinsert(i % 50 == 49 ? 10 : static_cast<uint8_t>('a' + i % 26));
+    for (int i = 0; i < 100000; i++) {
+      opinsert(i % 50 == 49 ? 10 : static_cast<uint8_t>('a' + i % 26));
+    }
     state.PauseTiming();
     delete bench;
     state.ResumeTiming();

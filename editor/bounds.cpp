@@ -1,6 +1,6 @@
-// How the difference bounds follow the changes. After a change they are first widened to hold it,
-// then tightened from both ends against the saved text, so that a byte typed back makes the sheet
-// clean again without any record of the past.
+// How the difference bounds follow the changes. Each change first widens them to hold it; then they
+// are tightened from both ends against the saved text. So a byte typed back makes the sheet clean
+// again, without any record of the past.
 #include "editor/bounds.h"
 
 #include <cstring>
@@ -9,10 +9,10 @@
 
 namespace tarn {
 
-// A key must not walk the text. Runs over the saved text itself are passed in one step. The rest, a
-// long stretch that happens to repeat, is walked only so far, since bounds that are too wide do no
-// harm: then more bytes show as changed, out of sight. One walk alone is never cut short, the one
-// that can find the sheet clean.
+// A key must not walk the text. Runs over the saved text itself are passed in one step. Anything
+// else, such as a long stretch that repeats, is walked only so far: bounds that are too wide do no
+// harm but that more bytes show as changed. Only the walk that can find the sheet clean is never
+// cut short.
 static constexpr int64_t usualeffort = 65536;     // bytes compared
 static constexpr int64_t effortofshard = 16;      // a step to the next shard costs as many
 static constexpr int64_t noteffort = INT64_MAX;   // walk as far as it goes
@@ -90,8 +90,8 @@ static void setbounds(sheet& s, int64_t low, int64_t high, bool lowdiffers) {
 
 void boundsempty(sheet& s) { setbounds(s, size(s), size(s), false); }
 
-// Narrows the range from `low` to `high`, for which the first two rules of sheet.h hold. The byte
-// at `low` can be known to differ.
+// Makes the range from `low` to `high`, for which the first two rules of sheet.h hold, as narrow as
+// the effort allows. `lowdiffers`: the byte at `low` is known to differ.
 static void tighten(sheet& s, int64_t low, int64_t high, bool lowdiffers, int64_t effort) {
   int64_t n = size(s);
   int64_t both = smaller(s.saved.len(), n);
@@ -105,11 +105,11 @@ static void tighten(sheet& s, int64_t low, int64_t high, bool lowdiffers, int64_
   setbounds(s, low, godown(s, high, limit, effort), lowdiffers);
 }
 
-// Whether a change at the point leaves the byte at difflow as it was, and that is known to differ.
+// Whether the byte at difflow is known to differ, and a change at the point leaves it as it was.
 static bool lowstays(const sheet& s) { return s.lowdiffers && s.difflow < s.point; }
 
-// The first byte put into a clean text is not compared: a typed byte shows as changed even if it
-// equals its neighbour.
+// On purpose: the first byte put into a clean text is not compared, so that a typed byte shows as
+// changed even if it equals its neighbour.
 void boundsinserted(sheet& s, int64_t n, bool wasclean) {
   int64_t point = s.point;
   if (wasclean && n == 1) return setbounds(s, point, point + 1, false);

@@ -11,13 +11,13 @@ namespace tarn {
 // No difference: the text is the saved one.
 void boundsempty(sheet& s);
 
-// n bytes have been put in at the point, before which the sheet was clean or not.
+// n bytes have been put in at the point; `wasclean`: the sheet was clean before.
 void boundsinserted(sheet& s, int64_t n, bool wasclean);
 
 // n bytes have been taken out at the point.
 void boundsdeleted(sheet& s, int64_t n);
 
-// Nothing is known of the text: finds the bounds from nothing, at the cost of a walk over it.
+// Finds the bounds of a text of which nothing is known, at the cost of a walk over it.
 void boundsanew(sheet& s);
 
 // For tests: fails if the bounds break what sheet.h says of them.

@@ -47,7 +47,7 @@ Str pathofreversed(const Str& name) {
   return "/" + reversesegments(name);
 }
 
-// The height that `selected` counts by.
+// The height that `selected` counts by: that of the screen when it was set.
 static int64_t tabsheight = 0;
 
 // The first byte of each name that is shown.
@@ -61,7 +61,8 @@ static bool ontyped() { return selected % tabsheight == 0; }
 static int64_t firstofpage() { return selected / tabsheight * pagerows(); }
 static int64_t pickedentry() { return firstofpage() + selected % tabsheight - 1; }
 
-// After a resize the same entry is picked, or the typed name of the page that holds the same one.
+// After a resize, lets `selected` stand for the same entry again, or for the typed name of the page
+// that begins with the same one.
 static void followresize() {
   if (tabsheight == height) return;
   bool typed = ontyped();

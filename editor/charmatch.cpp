@@ -7,8 +7,8 @@
 
 namespace tarn {
 
-// The folding of bytes to letter-like glyphs, two neighbours to each. On purpose: not the glyphs
-// that the screen shows.
+// The characters that bytes fold to. On purpose: two neighbouring bytes fold to one, and these are
+// not the glyphs that the screen shows.
 static constexpr char lowfold[] = "~!@#$%^&*<>-|+/=";  // 0 to 31
 static constexpr char highfold[] =                     // 130 to 255
     "_abcdefghijklmnopqrustvwzxy0123456789ABCDEFGHIJKLMNOPQRUSTVWZXY";
@@ -23,12 +23,12 @@ static uint8_t foldbyte(uint8_t b) {
   return b < 32 ? static_cast<uint8_t>(lowfold[b / 2]) : b;
 }
 
-// The classes of plain bytes.
 struct SymbolClass {
-  uint8_t letter;
-  std::string_view bytes;
+  uint8_t letter;          // the capital that stands for the class
+  std::string_view bytes;  // all that are in it
 };
 
+// The classes of bytes as they stand in the text.
 static constexpr SymbolClass symbolclasses[] = {
     {'G', "\\;"},
     {'I', "&|"},

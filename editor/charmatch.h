@@ -1,7 +1,7 @@
 // What one byte of a pattern matches. A small letter matches either case; a capital is a class of
-// bytes, and never matches just itself; whatever else prints matches itself. A byte of the text that
-// does not print counts as the character that it folds to. A byte of the pattern that does not print
-// matches that byte alone.
+// bytes, and never matches just itself; whatever else prints matches itself. A byte of the text
+// that does not print counts as the character that it folds to. A byte of the pattern that does not
+// print matches that byte alone.
 //
 //   G  \ ;                J  < = > #          N  ^ ? @              Q  any symbol
 //   I  & |                L  + - . ;          O  ! " $ ` ~          P  ( ) [ ] { }

@@ -37,13 +37,13 @@ Str chooserpath(const Str& text) {
   return directory ? normalisedir(text) : normalise(text);
 }
 
-// The list.
+// --- The list ------------------------------------------------------------------------------------
 
 static bool saving = false;  // which of the two prompts it is; Save lists directories only
 static Str listed = "/";     // the directory listed, with "/" at its end
 
 // Lists a directory, which ends in "/", and picks its first entry; the bell if it cannot be read.
-// On purpose "../" comes before "./": all entries are sorted alike.
+// On purpose: "../" comes before "./", as all entries are sorted alike.
 static void listdirectory(const Str& path) {
   listed = path;
   selected = 0;
@@ -81,9 +81,9 @@ static void paintlist(const char* word) {
 static void paintopen() { paintlist("Open"); }
 static void paintsave() { paintlist("Save"); }
 
-// The keys of the list. Every move shows the path of the entry picked, so that Return opens what is
-// lit.
+// --- The keys of the list ------------------------------------------------------------------------
 
+// Every move shows the path of the entry picked, so that Return opens what is lit.
 static void pick(int64_t entry) {
   selected = entry;
   setstat(chooserpath(listed + listname(entry)));
@@ -117,7 +117,7 @@ static void enterchooser(bool forsave, const Str& directory) {
   godirectory(directory);
 }
 
-// Open.
+// --- Open ----------------------------------------------------------------------------------------
 
 // Whether a file can be opened and fits in a text.
 static bool readable(const Str& path) {
@@ -136,7 +136,7 @@ static void openfile(const Str& path) {
   switchbuffer(path);
 }
 
-// On purpose: an open buffer comes first, whether its file still exists or not.
+// An open buffer comes first, whether its file still exists or not.
 static void openpicked() {
   Str path = chooserpath(stat);
   if (sheets.contains(path)) return switchbuffer(path);
@@ -149,9 +149,9 @@ static void enteropen() {
   enterchooser(false, currentname == dotname ? cwdpath : parentdir(currentname));
 }
 
-// Save.
+// --- Save ----------------------------------------------------------------------------------------
 
-// The current buffer under its own name, changed or not.
+// Saves the current buffer under its own name, changed or not.
 static void saveagain(const Str& path) {
   sheet& s = currentsheet();
   Str text = flatten(s);
@@ -160,8 +160,8 @@ static void saveagain(const Str& path) {
   leave();
 }
 
-// The current buffer under a new name. On purpose: an existing file is replaced without question,
-// and the old buffer is closed, history and all. The scratch buffer stays as it is.
+// Saves the current buffer under a new name. On purpose: an existing file is replaced without a
+// question, and the old buffer is closed, history and all. The scratch buffer stays as it is.
 static void savenew(const Str& path) {
   Str text = flatten(currentsheet());
   writewhole(path, text);
@@ -172,7 +172,7 @@ static void savenew(const Str& path) {
   if (old != dotname) closefile(old);
 }
 
-// Whether the name is free of a buffer, or can be made so at no loss.
+// Closes a buffer of that name, if there is one; false if its changes would be lost.
 static bool freename(const Str& path) {
   auto open = sheets.find(path);
   if (open == sheets.end()) return true;

@@ -1,5 +1,6 @@
-// Every command, by the key that calls it: tarndoc and a letter for a control key, tarndom and a letter
-// for a meta key. Only dispatch calls them; dispatch.h says what it does before and behind.
+// Every command, named after the key that calls it: tarndoc and a letter for a control key, tarndom
+// and a letter for a meta key. dispatch.h says what happens before and after a command. One that
+// cannot do what it is asked rings the bell, and no text changes.
 #pragma once
 
 #include <cstdint>
@@ -24,10 +25,10 @@ void tarndoct();  // the status text one step right
 void tarndocu();  // a screen up
 void tarndocw();  // save
 void tarndocx();  // insert or overwrite mode
-void tarndelete();     // C-\: delete the byte at the point
-void tarnundo();       // C-_
-void tarnpaste();      // NUL, C-space
-void tarnbackspace();  // 0x7F
+void tarndelete();     // C-\: deletes the byte at the point
+void tarnundo();       // C-_: undoes one oper more
+void tarnpaste();      // C-space: puts `clip` in at the point
+void tarnbackspace();  // Backspace: deletes the byte before the point
 void tarntype(uint8_t key);  // a printable key or newline
 
 // Meta keys.
@@ -41,9 +42,9 @@ void tarndomg();  // green ink
 void tarndomh();  // the window to the start of the text
 void tarndomi();  // prompt: indent
 void tarndomj();  // prompt: select
-void tarndomk();  // prompt: palette from the text
+void tarndomk();  // the palette that the text at the point tells
 void tarndoml();  // prompt: go to a line
-void tarndomm();  // prompt: meta, where the point is
+void tarndomm();  // prompt: where the point is; types control keys
 void tarndomn();  // a new buffer
 void tarndomo();  // prompt: open a file
 void tarndomp();  // prompt: show the palette
@@ -52,7 +53,7 @@ void tarndomr();  // red ink
 void tarndoms();  // prompt: find
 void tarndomt();  // prompt: a byte many times
 void tarndomu();  // the default palette
-void tarndomv();  // sort the definitions
+void tarndomv();  // put the definitions in order
 void tarndomw();  // prompt: save under a name
 void tarndomx();  // prompt: replace
 void tarndomy();  // yellow ink

@@ -24,8 +24,8 @@ struct ConsoleEvent {
 };
 
 // Switches the console to single keys. One that is no console is a failure. From here on the
-// console's own modes come back, with plain colours, whenever the process ends by a signal or `exit`;
-// `abort` leaves everything as it is.
+// console's own modes come back, with plain colours, whenever the process ends by a signal or by
+// `exit`; `abort` leaves everything as it is.
 void consoleopen();
 
 // The size of the window in cells; 80 by 24 where it cannot be told.

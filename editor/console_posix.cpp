@@ -141,8 +141,8 @@ bool hungup() {
   return poll(&input, 1, 0) > 0 && (input.revents & POLLHUP) != 0;
 }
 
-// A read takes all that has come, so that after one press nothing is left to ask for. Only a paste or
-// keys that came faster than they were taken are longer than this.
+// A read takes all that has come, so that after one press nothing is left to ask for. Only a paste
+// or keys that came faster than they were taken are longer than this.
 constexpr ssize_t pressbytes = 8;
 
 void readkeys() {

@@ -1,5 +1,5 @@
-// The console of Windows: input records in, ANSI sequences out. Its modes are set once and stay: the
-// system's own command line sets what it needs when it comes back.
+// The console of Windows: input records in, ANSI sequences out. Its modes are set once and stay, as
+// the system's own command line sets what it needs when it comes back.
 #include <windows.h>
 
 #include <cstdlib>

@@ -19,7 +19,8 @@ static void enterdent() {
   setstat("Press indent key or return.");
 }
 
-// The key goes in as it is, without ink.
+// On purpose: the key is taken without ink, as the byte of a green comma is the newline that means
+// the opposite.
 static void typedent(uint8_t key) {
   Range range = selection(currentsheet());
   if (!opindent(range.low, range.high, key)) chirp();

@@ -19,10 +19,10 @@ namespace tarn {
 static constexpr uint8_t newline = 10;
 
 struct DentData {
-  int64_t end;
-  uint8_t key;
-  int64_t point;
-  Str marks;
+  int64_t end;    // of the range before the lines changed
+  uint8_t key;    // what goes in front, or a newline
+  int64_t point;  // before
+  Str marks;      // bytes 0 and 1; empty but for a newline
 };
 
 static Str packdent(const DentData& d) {
@@ -35,11 +35,10 @@ static DentData unpackdent(const Str& data) {
   return {word4(data.substr(0, 4)), data.at(4), word4(data.substr(5, 4)), data.substr(9)};
 }
 
-// What indenting or outdenting will do: the lines that it changes, or -1 if one of them refuses,
-// and the marks of an outdent.
+// What indenting or outdenting will do.
 struct DentPlan {
-  int64_t lines;
-  std::vector<uint8_t> marks;
+  int64_t lines;               // how many will change; -1 if one of them has no space to take
+  std::vector<uint8_t> marks;  // of an outdent
 };
 
 static DentPlan plandent(const sheet& s, int64_t start, int64_t end, uint8_t key) {
@@ -67,7 +66,7 @@ bool opindent(int64_t from, int64_t to, uint8_t key) {
   return carry(opdented, start, packdent({end, key, s.point, marks}));
 }
 
-// Puts a byte in front of offset i, or takes the one there out.
+// These put a byte in front of offset i, or take the one there out.
 static void putat(sheet& s, int64_t i, uint8_t byte) {
   setpoint(s, i);
   insertbyte(s, byte);

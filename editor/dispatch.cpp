@@ -14,7 +14,7 @@ using enum KeyMatch;
 
 static constexpr uint8_t esc = 0x1B;
 
-// The meta keys stand in the system's own order: r, u, s, t, v, w, z, x, y behind q.
+// The meta keys stand in Tarn's own order of the letters: r, u, s, t, v, w, z, x, y behind q.
 constexpr KeyRow keytable[] = {
     {"TAB", 1, {0x09}, prompt, tarndoci},
     {"C-SP", 1, {0x00}, start, tarnpaste},
@@ -65,7 +65,7 @@ constexpr KeyRow keytable[] = {
 };
 constexpr int64_t keyrows = sizeof keytable / sizeof keytable[0];
 
-// The row of a key by its last byte, -1 for none: no two rows share a key, so one look decides.
+// The row of a key by its last byte, -1 for none.
 using RowIndex = std::array<int8_t, 256>;
 
 static constexpr RowIndex indexrows(uint8_t length) {
@@ -104,8 +104,7 @@ static void runrow(const KeyRow& row) {
   runplain(row.command);
 }
 
-// ESC "[" and what follows: an arrow, which is the control key that moves the same way, or nothing
-// that means something here.
+// ESC "[" and what follows: an arrow, or a sequence that means nothing here.
 static void runsequence() {
   uint8_t last = line.at(line.len() - 1);
   uint8_t control = arrowcontrol(last);
@@ -114,7 +113,8 @@ static void runsequence() {
     return runplain(keytable[controlrows[control]].command);
   }
   painted = true;
-  // On purpose: keys whose last byte ends no sequence stay pending, until a letter comes.
+  // On purpose: a byte above 126 ends the key but not the sequence, so `line` stays as it is, and
+  // takes in what is typed until a letter comes.
   if (last < 0x20 || (last >= 0x40 && last <= 0x7E)) line = Str();
 }
 

@@ -17,7 +17,9 @@ bool carry(opertype w, int64_t t, const Str& data) {
 
 bool fits(const sheet& s, int64_t more) { return more <= sizelimit - size(s); }
 
-// ---- One byte. The data is a kind, the old byte and the new one; t is where the byte stands.
+// --- One byte ------------------------------------------------------------------------------------
+
+// The data is a kind, the old byte and the new one; t is where the byte stands.
 //
 //   kind   old            new         carried out       reversed
 //   '.'    anything       anything    nothing           nothing
@@ -99,7 +101,7 @@ void undotyped(sheet& s, const oper& o) {
   showpoint(s);
 }
 
-// ---- Stretches, put in and taken out.
+// --- Stretches put in and taken out --------------------------------------------------------------
 
 static void putin(sheet& s, int64_t t, const Str& text) {
   setpoint(s, t);
@@ -129,7 +131,9 @@ bool opdelete(const Str& text) {
 void todocut(sheet& s, const oper& o) { takeout(s, opert(o), o.data.len()); }
 void undocut(sheet& s, const oper& o) { putin(s, opert(o), o.data); }
 
-// ---- A run of one byte. The data is its length in decimal digits, then the byte.
+// --- A run of one byte ---------------------------------------------------------------------------
+
+// The data is the length in decimal digits, then the byte.
 
 // What is beyond every text counts as one byte more than the largest.
 static int64_t runlength(const Str& digits) { return decimalvalue(digits, sizelimit + 1); }

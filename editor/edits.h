@@ -1,7 +1,7 @@
 // What carries out the opers of each type, and what reverses them. Only edittodo and editundo
-// (history.h) call these. Each sets the point by what the oper says, wherever it stands, and keeps
-// it in the window. Reversing expects the text just as carrying out left it, and the other way
-// round; an oper whose data has a wrong form is a program fault.
+// (history.h) call these. Each puts the point where the oper says, wherever it was, and keeps it in
+// the window. Reversing expects the text just as carrying out left it, and the other way round. An
+// oper whose data has a wrong form is a program fault.
 #pragma once
 
 #include "editor/oper.h"
@@ -9,7 +9,7 @@
 
 namespace tarn {
 
-// Where the point then stands, carried out | reversed:
+// Where the point then stands, when carried out | when reversed:
 //
 //   typed    at or behind
 //   ran      behind | at t

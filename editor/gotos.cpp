@@ -19,7 +19,7 @@ static void jump(sheet& s, int64_t to) {
   leave();
 }
 
-// Byte: a number in the 64 digits.
+// --- Byte: a number in the 64 digits -------------------------------------------------------------
 
 static void paintbyte() { paintsheet("Byte"); }
 
@@ -43,7 +43,7 @@ static constexpr Prompt byteprompt = {2, enterbyte, bytekeys, typebyte, chirp};
 
 void tarndomb() { runprompt(byteprompt); }
 
-// Line: a decimal number, from 1.
+// --- Line: a decimal number, from 1 --------------------------------------------------------------
 
 static void paintline() { paintsheet("Line"); }
 

@@ -178,7 +178,7 @@ int64_t gridbytes(const Cell16* drawn, const Cell16* shown, int64_t cells, int64
     out = putcell(out, pen, drawn[at]);
   }
   out = putmove(out, col, row);
-  // On purpose: a detour to that one place.
+  // On purpose: the cursor takes a detour to that one place.
   if (row == 2 && col == 0) out = put(out, "\x1B[1;3H\x1B[3;1H");
   return out - begin;
 }

@@ -20,7 +20,7 @@ static std::vector<oper>& currenthistory() {
   return *foundhistory;
 }
 
-// ---- The life of a history.
+// --- The life of a history -----------------------------------------------------------------------
 
 sheet openrecord(const Str& name) {
   check(!sheets.contains(name));
@@ -44,7 +44,7 @@ bool forgetall() {
   return any;
 }
 
-// ---- Entering and finding.
+// --- Entering and finding ------------------------------------------------------------------------
 
 void enteroper(oper made) {
   std::vector<oper>& history = currenthistory();
@@ -63,10 +63,10 @@ oper& findoper(int64_t version) {
   return history[i];
 }
 
-// ---- Doing and reversing.
+// --- Doing and reversing -------------------------------------------------------------------------
 
-// The version that a marker undoes. The marker that begins a chain had its t raised by those behind
-// it; its own version is then the smaller.
+// The version that a marker undoes. The t of the marker that begins a chain has been raised by
+// those behind it, so that its own version is then the smaller of the two.
 static int64_t markertarget(const oper& marker) {
   int64_t v = operv(marker);
   int64_t head = opert(marker) < v ? opert(marker) : v;
@@ -105,7 +105,7 @@ void editundo(int64_t version) {
   }
 }
 
-// ---- The commands.
+// --- Undo and redo -------------------------------------------------------------------------------
 
 int64_t undodepth() {
   const oper& last = lastoper();

@@ -10,8 +10,8 @@
 //   C-_ C-_ C-_        13 undoes 11, then 15 redoes 3 and 17 redoes 5, by undoing their markers
 //
 // All of these work on the current buffer, move its point and keep it in the window. A builder
-// that cannot do its work gives false, and nothing has changed: that is the bell. It refuses what
-// would grow the text beyond 2^30 bytes, and what would change nothing at all.
+// gives false, with nothing changed, for what would grow the text beyond 2^30 bytes or would change
+// nothing at all: the caller then rings the bell.
 #pragma once
 
 #include <cstdint>
@@ -59,6 +59,6 @@ oper& lastoper();                       // the one of the highest version
 oper& findoper(int64_t version);        // exactly that one, which must exist
 void edittodo(int64_t version);         // carries it out
 void editundo(int64_t version);         // reverses it
-int64_t undodepth();                    // 0 or less when nothing can be undone
+int64_t undodepth();                    // 0 when nothing can be undone; never below
 
 }  // namespace tarn

@@ -1,4 +1,4 @@
-// What fills the cut buffer, and the paste that empties it into a text.
+// The cut buffer: what fills it, and the paste that puts it into a text.
 #include "editor/commands.h"
 #include "editor/history.h"
 #include "editor/reader.h"
@@ -10,8 +10,8 @@
 
 namespace tarn {
 
-// What an unbroken row of C-k has cut since the first of them. It is joined to `clip` only when
-// that is wanted, so that each C-k costs no more than what it cuts.
+// What an unbroken row of C-k has cut since the first of them; null for nothing. It is joined to
+// `clip` only when that is pasted, so that each C-k costs no more than what it cuts.
 static StrBuilder* gathered = nullptr;
 
 static void setclip(const Str& text) {

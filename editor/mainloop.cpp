@@ -20,6 +20,8 @@
 
 namespace tarn {
 
+// On purpose: the random numbers are the same in each run, so that what a program or a command does
+// with them can be repeated.
 static void findsurroundings() {
   starttime = time(nullptr);
   hoststart();
@@ -67,7 +69,8 @@ static void presskey(const KeyText& key) {
   check(fflush(stdout) == 0);
 }
 
-// Takes a new size. What the terminal shows is unknown, so that the grids start anew.
+// Takes a new size. What the terminal shows is unknown, so that the grids start anew. On purpose: a
+// window too small for a status row and one of text ends the process, whatever has not been saved.
 static void resize(int64_t columns, int64_t rows) {
   if (columns < 7 || rows < 2) {
     bail("\x1B[1;1HTarn cannot recover from windows less than 7,2\n");

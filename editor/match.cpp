@@ -12,12 +12,12 @@
 
 namespace tarn {
 
-// Making a pattern ready.
+// --- Making a pattern ready ----------------------------------------------------------------------
 
-// What each pattern byte matches, worked out when it is first used.
+// What a pattern byte matches, worked out when it is first used.
 struct MatchRow {
-  bool known;
-  bool matches[256];
+  bool known;         // the rest is valid
+  bool matches[256];  // by the byte of the text
 };
 
 static MatchRow matchrows[256];
@@ -34,8 +34,8 @@ static bool matchesat(const Pattern& p, int64_t position, int32_t byte) {
   return (p.masks[byte] >> (position + 1) & 1) != 0;
 }
 
-// The pair that covers `byte` and as much beside it as the position matches: its other case, or its
-// neighbour in folding, or itself alone.
+// The mask for a probe that covers `byte` and, if the position matches that too, its other case or
+// its neighbour in folding.
 static uint8_t widestmask(const Pattern& p, int64_t position, int32_t byte) {
   if (matchesat(p, position, byte ^ 0x20)) return 0xDF;
   return matchesat(p, position, byte ^ 1) ? 0xFE : 0xFF;
@@ -62,8 +62,8 @@ static bool probemake(const Pattern& p, int64_t position, Probe& probe) {
   return pairs > 0;
 }
 
-// How common the bytes of a pattern byte are in texts and programs, the rarest first; all others
-// are rarer than these.
+// How common what a pattern byte matches is in texts and programs, the rarest first. What is not in
+// the list is rarer still.
 static int64_t commonness(uint8_t p) {
   static constexpr std::string_view common = "zqxjkvwybgpf0123456789m,.udclhrsinoat\ne ";
   size_t at = common.find(static_cast<char>(p));
@@ -105,7 +105,9 @@ Pattern patternmake(const Str& text) {
   return p;
 }
 
-// The search goes over the places where a match can start, block by block.
+// --- Searching -----------------------------------------------------------------------------------
+
+// A search goes over the places where a match can start, block by block.
 
 static constexpr int64_t probeblock = 64;    // starts that are probed at once
 static constexpr int64_t plainblock = 4096;  // starts that are walked at once without probes
@@ -159,9 +161,9 @@ static int64_t pickplace(const Pattern& p, const uint8_t* starts, const Bytes* p
   return -1;
 }
 
-// Skips whole blocks of places in `bytes`, none of which passes both probes, from the front or,
-// with `last`, from the back. Gives the number of blocks skipped; `place` is where a match starts
-// in the next one, counted from its first place, or -1.
+// Skips whole blocks of places in `bytes` that hold no match, from the front or, with `last`, from
+// the back. Gives the number of blocks skipped. `place` is where a match starts in the block that
+// stopped it, counted from that block's first place; -1 if none did.
 static int64_t skipblocks(const Pattern& p, const uint8_t* bytes, int64_t blocks, bool last,
                           int64_t& place) {
   const WideProbe first = widen(p.probe[0]);
@@ -186,7 +188,7 @@ static int64_t skipblocks(const Pattern& p, const uint8_t* bytes, int64_t blocks
 }
 
 // The end of the first match, or the last, that starts among the `count` places from `start` on;
-// -1 if there is none. All of the last one's bytes must lie in the text.
+// -1 if there is none. A match that starts at the last of these places must fit in the text.
 static int64_t walkblock(reader& r, const Pattern& p, int64_t start, int64_t count, bool last) {
   const uint64_t hit = uint64_t{1} << p.length;
   int64_t stop = start + count + p.length - 1;
@@ -205,12 +207,11 @@ static int64_t walkblock(reader& r, const Pattern& p, int64_t start, int64_t cou
   return found;
 }
 
-// The places [from, to) where a match can start and that are still to be looked at, from the front
-// or from the back.
+// The places where a match can start and that are still to be looked at.
 struct Places {
-  int64_t from;
-  int64_t to;
-  bool last;
+  int64_t from;  // the first of them
+  int64_t to;    // behind the last; not below `from`
+  bool last;     // they are looked at from the back
 };
 
 static void drop(Places& places, int64_t count) {

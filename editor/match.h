@@ -1,5 +1,5 @@
-// Searching. A pattern is a text whose bytes stand for classes of bytes (charmatch.h). It is matched
-// against all places of a text at once by a word of bits, and where its classes allow that, most of
+// Searching. Each byte of a pattern stands for a class of bytes (charmatch.h). A walk over a text
+// follows all matches under way at once, as the bits of a word; where the classes allow it, most of
 // the text is passed over by two quick tests.
 #pragma once
 
@@ -39,9 +39,9 @@ inline uint64_t patternstep(const Pattern& p, uint64_t state, uint8_t byte) {
 inline bool patternhit(const Pattern& p, uint64_t state) { return (state >> p.length & 1) != 0; }
 
 // The end of the first match that ends behind `from`, going on from the start of the text up to
-// `from`; or backward the other way round. -1 if there is none. A match that ends at `from` itself
-// does not count, and the end of the text counts as its start does: from 0 or from the size,
-// neither is found.
+// `from`; backward the other way round. -1 if there is none. A match that ends at `from` itself
+// does not count. On purpose: a search goes round the text, and its end counts as its start does,
+// so that from the one a match at the other is not found, and a text of one byte holds none.
 int64_t matchfrom(const sheet& s, const Pattern& p, int64_t from, bool forward);
 
 // Moves the point to the next match from it, just behind its last byte, and shows it; false, and

@@ -36,15 +36,16 @@ void tarndocf() {
   movepoint(s, s.point + 1);
 }
 
-// By rows. The newline of a line of exactly `width` bytes stands alone on a row of its own. Up and
-// down pass that row by, unless the cursor comes from the first column.
+// --- By rows -------------------------------------------------------------------------------------
 
+// Whether a row holds nothing but the newline of a line of exactly `width` bytes. Up and down pass
+// such a row by, unless the cursor comes from the first column.
 static bool lonenewline(const sheet& s, int64_t row) {
   return row > 0 && row < size(s) && byteat(s, row) == '\n' && byteat(s, row - 1) != '\n';
 }
 
-// The place in a row below `column`: the row's last byte, if it is shorter. The next row begins at
-// `next`, -1 where there is none.
+// The place at `column` of a row, or the row's last byte where it is shorter. The next row begins
+// at `next`, -1 where there is none.
 static int64_t inrow(const sheet& s, int64_t row, int64_t column, int64_t next) {
   return std::min(row + column, next < 0 ? size(s) : next - 1);
 }
@@ -64,7 +65,8 @@ static Str movesequence(int64_t rowsup, int64_t column) {
   return column == 0 ? text : text + "\x1B[" + strnumber(column + 1) + "G";
 }
 
-// Whether the screen shows the last state, and a mere move of the cursor would keep it so.
+// Whether the screen shows the state before the motion, and would show the one after it if the
+// cursor alone were moved.
 static bool cursoronly(const sheet& s) {
   return s.point >= s.top && mark < 0 && repaint == paintfile && !suppressed && !owespaint() &&
          !deferpaint();
@@ -93,14 +95,14 @@ void tarndocp() {
   }
 }
 
-// By the window.
+// --- By the window -------------------------------------------------------------------------------
 
 static void movetop(sheet& s, int64_t to) { s.top = static_cast<int32_t>(to); }
 
 // Puts the point at `to`, or at the end of the text if that is before.
 static void clamppoint(sheet& s, int64_t to) { setpoint(s, std::min(to, size(s))); }
 
-// A point that the window has left goes to its middle.
+// Brings a point that the window has left to the middle of it.
 static void keeppoint(sheet& s) {
   if (!pointshows(s)) clamppoint(s, s.top + (windowbottom(s) - s.top) / 2);
 }

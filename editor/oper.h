@@ -8,8 +8,9 @@
 //   │ 0  │   w   │               v               │               t               │
 //   └────┴───────┴───────────────────────────────┴───────────────────────────────┘
 //
-//   t  a position in the text; for a marker the version pointer. The end of a full text, 2^30, does
-//      not fit and is not needed: nothing can be put in there, and what goes begins before it
+//   t  a position in the text; for a marker the version pointer (history.h). The end of a full
+//      text, 2^30, does not fit and is not needed: nothing can be put in there, and what is taken
+//      out begins before it
 //   v  the version: 0 for the root oper of a buffer, then 1, 3, 5 ... without gaps
 //   w  the type, below
 //
@@ -37,8 +38,8 @@ enum opertype : uint32_t {
 };
 
 struct oper {
-  Str data;
-  uint64_t word;
+  Str data;       // by the type, as told above
+  uint64_t word;  // drawn above
 };
 
 inline constexpr uint64_t opermask = 0x3FFFFFFF;

@@ -2,7 +2,8 @@
 // the width. The colours tell the class of a byte, the state of the sheet and the selection.
 //
 // While more keys wait, a paint would be overwritten at once and is left out: every painter first
-// has its effects on the state, then asks deferpaint(), and lays out its grid only if that is false.
+// has its effects on the state, then asks deferpaint(), and lays out its grid only if that is
+// false.
 #pragma once
 
 #include <cstdint>
@@ -22,8 +23,8 @@ struct Spot {
 // Whether the byte at an offset shows as selected. Asked once for every byte drawn, in order.
 using Highlight = bool (*)(int64_t offset);
 
-// Draws the text of the current sheet, from row 1 on, and gives the place of the point, which must be
-// in the window. The selected bytes are those of `highlight`, or without one the selection.
+// Draws the text of the current sheet, from row 1 on, and gives the place of the point, which must
+// be in the window. The selected bytes are those of `highlight` or, without one, the selection.
 Spot drawtext(Highlight highlight);
 
 // Draws the text and the word.

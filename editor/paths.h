@@ -6,13 +6,13 @@
 
 namespace tarn {
 
-// The absolute path of a file. "~/" in front stands for `home`, a relative path starts at `cwdpath`;
-// segments "", "." and ".." are worked out. A text that is empty or ends in "/" is a failure. Empty
-// where ".." climbs to the root itself or above it.
+// The absolute path of a file. "~/" in front stands for `home`, a relative path starts at
+// `cwdpath`, and the segments "", "." and ".." are worked out. Empty where ".." climbs to the root
+// itself or above it. A text that is empty or ends in "/" is a program fault.
 Str normalise(Str text);
 
-// The same for a directory, which may end in "/"; the result ends in "/", and the root is "/". Empty
-// only above the root.
+// The same for a directory, whose text may be empty or end in "/". The result ends in "/"; the root
+// is "/". Empty only above the root.
 Str normalisedir(Str text);
 
 bool isdir(const Str& path);   // an existing directory
@@ -24,7 +24,7 @@ Str parentdir(Str path);
 // The user's home directory, ending in "/"; "/" where there is none.
 Str findhome();
 
-// The working directory, ending in "/". One that has no absolute path is a failure.
+// The working directory, ending in "/". One that has no absolute path is a program fault.
 Str findcwd();
 
 // A directory's path as Windows tells it, "C:\a\b", as the program has it, "/a/b/". One that does not

@@ -5,6 +5,7 @@
 #include "editor/commands.h"
 #include "editor/keys.h"
 #include "editor/kink.h"
+#include "editor/pink.h"
 #include "editor/state.h"
 #include "editor/status.h"
 
@@ -51,7 +52,7 @@ void runprompt(const Prompt& prompt) {
   if (line.len() == prompt.prefix) return prompt.enter();
   Str before = line;
   answer(prompt, line.substr(lastkey(line)));
-  // A key that ended the prompt has put something else in `line`.
+  // The key is taken off again, unless it has ended the prompt and `line` holds something else.
   if (line.same(before)) line = line.substr(0, prompt.prefix);
 }
 
@@ -60,8 +61,8 @@ void dropstat() {
   setstat(stat.substr(0, stat.len() - 1));
 }
 
-void redink() { inkmode = 1; }
-void greenink() { inkmode = 2; }
-void yellowink() { inkmode = 3; }
+void redink() { inkmode = classred; }
+void greenink() { inkmode = classgreen; }
+void yellowink() { inkmode = classyellow; }
 
 }  // namespace tarn

@@ -13,7 +13,7 @@ namespace tarn {
 
 // A key that a prompt answers in its own way.
 struct PromptKey {
-  std::string_view key;
+  std::string_view key;  // its bytes; an arrow comes as the control key that it stands for
   void (*act)();
 };
 

@@ -11,8 +11,8 @@
 
 namespace tarn {
 
-// Within a length, small letters stand before digits and capitals. rand starts from the same seed
-// in every run, so that the quips come in a fixed order.
+// The snippets stand from short to long, and within a length small letters come before digits and
+// capitals. rand starts from the same seed in every run, so that the quips come in a fixed order.
 const char* const quips[] = {
     "Undo is cheaper than regret.",
     "A watched cursor blinks at its own pace.",

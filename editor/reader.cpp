@@ -28,21 +28,24 @@ bool readto(reader& r, int64_t i) {
   return true;
 }
 
-// ---- The stretches that are known to hold no newline: the longest that searches have met.
+// --- Stretches without a newline -----------------------------------------------------------------
+
+// The longest that searches have met.
 
 struct Plain {
-  const uint8_t* from;
-  const uint8_t* to;
+  const uint8_t* from;  // null for none
+  const uint8_t* to;    // behind the last byte
 };
 static Plain plains[4] = {};
 
-static constexpr int64_t worthnoting = 65536;
+static constexpr int64_t worthnoting = 65536;  // bytes: a shorter stretch is searched as fast
 
 void forgetplains() {
   for (Plain& p : plains) p = {nullptr, nullptr};
 }
 
-// Notes that there is none from `from` to `to`: with a stretch that it meets, or for the shortest.
+// Notes that there is no newline from `from` to `to`: joins that to a stretch which it meets, or
+// lets it take the place of a shorter one.
 static void noteplain(const uint8_t* from, const uint8_t* to) {
   Plain* shortest = plains;
   for (Plain& p : plains) {
@@ -103,7 +106,7 @@ static const uint8_t* behindlastin(const uint8_t* from, const uint8_t* to) {
   return p;
 }
 
-// ---- The searches.
+// --- The searches --------------------------------------------------------------------------------
 
 int64_t newlinefrom(reader& r, int64_t i, int64_t end) {
   while (i < end && readto(r, i)) {

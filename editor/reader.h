@@ -13,11 +13,11 @@
 namespace tarn {
 
 struct reader {
-  const shard* root;     // the text; null if empty
+  const shard* root;     // the text, lent; null if empty
   const shard* at;       // the shard of the stretch; null before the first read
   const uint8_t* bytes;  // the stretch: text offset start + k is bytes[k]
-  int64_t start;
-  int64_t length;
+  int64_t start;         // where the stretch begins in the text
+  int64_t length;        // of the stretch; 0 before the first read
 };
 
 inline reader readsheet(const sheet& s) {
@@ -36,7 +36,8 @@ inline uint8_t readbyte(reader& r, int64_t i) {
 }
 
 // Searches for newlines remember the longest stretches of memory that had none, so that a key in a
-// very long line need not walk it each time. Call this before bytes that runs point into are freed.
+// very long line need not walk it each time. This forgets them; it must be called before bytes that
+// runs point into are freed.
 void forgetplains();
 
 // The first newline at or behind i that lies before `end`, else `end`, which is at most the size.

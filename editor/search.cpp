@@ -1,5 +1,5 @@
 // Find and Mark: the prompts that search with every key. Find goes to what is typed and lights
-// every match; Mark selects from where it began to where the search has come.
+// every match; Mark selects from where it began to where the search has led.
 #include <algorithm>
 #include <vector>
 
@@ -19,15 +19,16 @@ namespace tarn {
 
 using namespace std::literals;
 
-// What Find lights in the window.
+// What Find lights in the window; made anew for each paint.
 struct Lit {
-  int64_t from;           // the offset of the first flag
-  std::vector<bool> lit;  // the byte lies in a match
+  int64_t from;           // the offset of the first byte that has a flag
+  std::vector<bool> lit;  // a flag for each byte from there on: it lies in a match
 };
 
 static Lit lit;
 
-// Walks over the window, and n - 1 bytes more on either side: a match is known by its last byte.
+// Walks over the window and somewhat beyond both its ends: a match may begin above it, and one that
+// ends below it is known by its last byte only.
 static void lightmatches(sheet& s) {
   int64_t end = std::min(size(s), windowbottom(s));
   lit.from = s.top;
@@ -62,7 +63,7 @@ static void paintfind() {
 
 static void paintmark() { paintsheet("Mark"); }
 
-// The parts of both.
+// --- The parts of both ---------------------------------------------------------------------------
 
 // Goes to the next match, or the one before. False, with the bell, if there is none or if the
 // search has come round.
@@ -78,7 +79,7 @@ static bool searchon(bool forward) {
 static void nextmatch() { searchon(true); }
 static void previousmatch() { searchon(false); }
 
-// Takes one byte more into the pattern and goes to a match of it; the byte is dropped if there is
+// Takes one byte more into the pattern and goes to the next match; the byte is dropped if there is
 // none. A full pattern takes no more.
 static void typepattern(uint8_t byte) {
   if (stat.len() == patternlimit) return;
@@ -94,7 +95,7 @@ static void droppattern() {
   showpoint(currentsheet());
 }
 
-// Find.
+// --- Find ----------------------------------------------------------------------------------------
 
 static int64_t origin = 0;  // the point at the start of the search
 
@@ -104,7 +105,7 @@ static void enterfind() {
   setstat("");
 }
 
-// The pattern takes no ink: its letters stand for classes.
+// On purpose: takes no ink, unlike Mark, as the letters of a pattern stand for classes.
 static void typefind(uint8_t key) { typepattern(key); }
 
 static void goorigin() { movepoint(currentsheet(), origin); }
@@ -114,7 +115,8 @@ static void cancelfind() {
   leave();
 }
 
-// On to the first match above the window, or below it, as the window stands now.
+// Goes on to the first match above the window, or below it, as the window stands when the key
+// comes.
 static void matchesabove() {
   int64_t top = currentsheet().top;
   while (searchon(false) && currentsheet().point >= top) {}
@@ -146,7 +148,7 @@ static constexpr Prompt findprompt = {2, enterfind, findkeys, typefind, replay};
 
 void tarndoms() { runprompt(findprompt); }
 
-// Mark.
+// --- Mark ----------------------------------------------------------------------------------------
 
 static void setmark() { mark = currentsheet().point; }
 

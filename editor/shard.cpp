@@ -25,8 +25,8 @@ static void retotal(shard* s) {
   settotal(s, shardtotal(s->left) + shardlength(s) + shardtotal(s->right));
 }
 
-// Adds n, which may be negative, to the totals from s up to but not including `stop`. Each of them
-// stays at least 1 and at most the root's, which the caller tests before it adds.
+// Adds n, which may be negative, to the totals from s up to but not including `stop`. None leaves
+// its range: the root's is the greatest, and the caller has tested that.
 static void addtotals(shard* s, const shard* stop, int64_t n) {
   uint32_t added = static_cast<uint32_t>(n) << 1;
   for (; s != stop; s = s->parent) s->word += added;
@@ -43,7 +43,7 @@ shard* shardrun(const uint8_t* bytes, int64_t n) {
   return new shard{nullptr, nullptr, nullptr, 1u << 31 | less1 << 1 | 1, less1, {bytes}};
 }
 
-// ---- Walking.
+// --- Walking -------------------------------------------------------------------------------------
 
 static shard* outermost(shard* s, Side side) {
   while (s->*side != nullptr) s = s->*side;
@@ -76,7 +76,7 @@ static shard* beside(const shard* s, Side side) {
 shard* shardnext(const shard* s) { return beside(s, &shard::right); }
 shard* shardback(const shard* s) { return beside(s, &shard::left); }
 
-// ---- Linking and balancing.
+// --- Linking and balancing -----------------------------------------------------------------------
 
 // Puts `child`, which may be null, where s hangs.
 static void replace(shard*& root, const shard* s, shard* child) {
@@ -104,7 +104,8 @@ static void rotate(shard*& root, shard* s, Side side) {
   retotal(child);
 }
 
-// s is red: goes up until its parent is not.
+// s, a fresh red shard, may have a red parent. Mends that, or moves the fault up two levels, until
+// there is none.
 static void balanceadded(shard*& root, shard* s) {
   while (red(s->parent)) {
     shard* parent = s->parent;
@@ -131,7 +132,8 @@ static void balanceadded(shard*& root, shard* s) {
   setred(root, false);
 }
 
-// Every path through s, the child of `parent` that may be null, lacks a black node.
+// Every path through s, a child of `parent` and maybe null, is one black node short. Mends that, or
+// moves the fault up one level, until there is none.
 static void balanceremoved(shard*& root, shard* s, shard* parent) {
   while (parent != nullptr && !red(s)) {
     Side side = s == parent->left ? &shard::left : &shard::right;
@@ -182,8 +184,8 @@ static void attachbeside(shard*& root, shard* s, Side side, shard* fresh) {
   }
 }
 
-// Exchanges the places and the colours of s and its successor, which stands below it. Totals: the
-// successor gets those of s; between them and at s they are left to the caller.
+// Exchanges the places and the colours of s and its successor, which stands below it. The successor
+// gets the total of s; the totals below it, down to s, are the caller's to mend.
 static void exchange(shard*& root, shard* s, shard* next) {
   shard* nextparent = next->parent;
   shard* nextright = next->right;
@@ -224,7 +226,7 @@ static void detach(shard*& root, shard* s) {
   delete s;
 }
 
-// ---- Editing.
+// --- Editing -------------------------------------------------------------------------------------
 
 static void setlength(shard* run, int64_t n) {
   int64_t grown = n - shardlength(run);
@@ -307,7 +309,7 @@ void shardfree(shard* root) {
   delete root;
 }
 
-// ---- The rules of the tree.
+// --- The rules of the tree -----------------------------------------------------------------------
 
 // Checks the subtree and gives its black height.
 static int64_t checksubtree(const shard* s, const shard* parent) {

@@ -17,9 +17,10 @@
 //   total  bytes in the whole subtree; kept less one, so that 2^30 of them fit in 30 bits
 //   red    set: a red node
 //
-// A tree is known by its root, a null one is the empty text. Every function that changes a tree
-// takes its root by reference. Offsets and counts are in bytes; one out of range is a program
-// fault.
+// A tree is known by its root; a null root is the empty text. A tree owns its shards, and each
+// function that changes it gets the root by reference. The bytes of runs are lent by whoever makes
+// them, until no run points there. Offsets and counts are in bytes, and one out of range is a
+// program fault.
 #pragma once
 
 #include <cstdint>
@@ -33,7 +34,7 @@ struct shard {
   shard* parent;  // null at the root
   shard* left;    // owned, as is right; null for none
   shard* right;
-  uint32_t word;    // the size word above
+  uint32_t word;    // the size word drawn above
   uint32_t length;  // the bytes of a run less one; 0 for a single byte
   union {
     const uint8_t* bytes;  // a run: its first byte, which the sheet keeps alive
@@ -52,8 +53,7 @@ inline int64_t shardtotal(const shard* s) {
   return s == nullptr ? 0 : static_cast<int64_t>((s->word >> 1) & 0x3FFFFFFF) + 1;
 }
 
-// A shard outside any tree: one byte, or a run of n bytes, 1 to 2^30, that must stay where they
-// are.
+// Give a shard outside any tree: one byte, or a run of n bytes, 1 to 2^30.
 shard* shardsingle(uint8_t byte);
 shard* shardrun(const uint8_t* bytes, int64_t n);
 
@@ -67,15 +67,15 @@ shard* shardback(const shard* s);
 // Makes offset i begin a shard, by cutting the run that holds it in two over the same bytes.
 void shardsplit(shard*& root, int64_t i);
 
-// Puts a fresh shard in front of the byte at offset i, 0 to the total inclusive.
+// Takes a fresh shard and puts it in front of the byte at offset i, 0 to the total inclusive.
 void shardinsert(shard*& root, int64_t i, shard* fresh);
 
 // The same, `within` bytes into the shard s of the tree, 0 to its length: without a search.
 void shardinsertat(shard*& root, shard* s, int64_t within, shard* fresh);
 
-// Lets the shard s of the tree take one byte more at its end: a run that ends at `room` goes on
-// there, and a single moves to `room` with the byte behind it. Gives how many bytes of `room` are
-// used now; 0, and nothing has changed, for a run that ends elsewhere.
+// Makes the shard s of the tree one byte longer at its end. A run that ends at `room` goes on
+// there; a single byte moves to `room`, and the new one goes behind it. Gives how many bytes of
+// `room` are used now, 1 or 2; 0, with nothing changed, for a run that ends elsewhere.
 int32_t shardgrow(shard* s, uint8_t* room, uint8_t byte);
 
 // Removes n bytes from offset i on; all of them must be there.

@@ -26,7 +26,7 @@ sheet& currentsheet() {
   return *foundsheet;
 }
 
-// ---- Making and dropping.
+// --- Making and dropping -------------------------------------------------------------------------
 
 // The tree of one run over text.
 static shard* runover(const Str& text) {
@@ -84,7 +84,7 @@ void markclean(sheet& s, const Str& text) {
 
 void markclean(sheet& s) { markclean(s, flatten(s)); }
 
-// ---- Reading.
+// --- Reading -------------------------------------------------------------------------------------
 
 uint8_t byteat(const sheet& s, int64_t i) {
   int64_t within = 0;
@@ -123,7 +123,7 @@ void setpoint(sheet& s, int64_t i) {
   s.point = static_cast<int32_t>(i);
 }
 
-// ---- Changing.
+// --- Changing ------------------------------------------------------------------------------------
 
 static void touch(sheet& s, int32_t from) {
   if (from < s.touched) s.touched = from;

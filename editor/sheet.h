@@ -14,8 +14,9 @@
 //   - the sheet is clean, that is the text equals `saved`, exactly when difflow == size and
 //     size == length of `saved`
 //
-// Only the functions below and the opers (history.h) change a text; commands make opers. A sheet
-// may be copied, but the copy shares the tree: keep none across a change of the text.
+// Only the functions below change a text, and only the opers (history.h) call them; commands make
+// opers. A sheet may be copied, but the copy shares the tree: keep none across a change of the
+// text.
 #pragma once
 
 #include <cstdint>
@@ -26,11 +27,11 @@
 
 namespace tarn {
 
-// A text that runs of the tree point into, beside `saved`: a large insertion is one run over it,
-// and bytes typed in a row fill the room of a block.
+// A text beside `saved` that runs of the tree point into: a large insertion, which is one run over
+// it, or a block whose room bytes typed in a row fill.
 struct kepttext {
   Str text;
-  kepttext* next;
+  kepttext* next;  // owned; null at the end
 };
 
 // No change since the window (window.h) looked.
@@ -43,10 +44,10 @@ struct sheet {
   int32_t touched = 0;     // the lowest offset changed since the window looked last, or `untouched`
   int32_t difflow = 0;     // start of the range that may differ from `saved`
   int32_t point = 0;       // the cursor, 0 to the size inclusive
-  shard* root = nullptr;   // the text; its runs point into `saved` and the kept texts
-  kepttext* kept = nullptr;
+  shard* root = nullptr;   // the text, owned; its runs point into `saved` and the kept texts
+  kepttext* kept = nullptr;  // owned, the newest first; null for none
   shard* hand = nullptr;   // the shard put in last, where reading starts; null after other changes
-  int32_t handstart = 0;   // its offset
+  int32_t handstart = 0;   // its offset; valid while there is a hand
   bool lowdiffers = false;  // the byte at difflow is known not to be that of `saved`
   uint8_t* room = nullptr;  // the unused rest of the newest block for typed bytes
   int32_t roomleft = 0;     // its length
@@ -62,10 +63,11 @@ sheet& currentsheet();
 // A clean sheet over text: one run, however long it is. At most 2^30 bytes.
 sheet sheetnew(const Str& text);
 
-// Frees the tree and what is kept for it. Copies of the sheet must not be used any more.
+// Frees the tree and what is kept for it. Copies of the sheet must not be used afterwards.
 void sheetdrop(sheet& s);
 
-// Drops the sheet of that name and takes it out of `sheets`; nothing may be erased there otherwise.
+// Drops the sheet of that name and takes it out of `sheets`; nothing where there is none. This is
+// the only way to erase one.
 void sheetclose(const Str& name);
 
 inline int64_t size(const sheet& s) { return shardtotal(s.root); }

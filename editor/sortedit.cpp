@@ -1,4 +1,4 @@
-// Putting the definitions in order. The data of the oper is the whole text before it.
+// Putting the definitions in order, as an oper. Its data is the whole text before it.
 #include "editor/edits.h"
 #include "editor/history.h"
 #include "editor/reader.h"
@@ -7,7 +7,7 @@
 
 namespace tarn {
 
-// The end of a full text does not fit in t; the byte before it is on the same line or its newline.
+// The end of a full text does not fit in t; the byte before it serves as well.
 void opsort() {
   const sheet& s = currentsheet();
   int64_t last = static_cast<int64_t>(opermask);

@@ -3,6 +3,7 @@
 
 #include "editor/kink.h"
 #include "editor/paint.h"
+#include "editor/pink.h"
 
 namespace tarn {
 
@@ -19,7 +20,7 @@ int64_t statshift = 0;
 Str currentname = ".";
 Str clip;
 int64_t mark = -1;
-int32_t inkmode = 3;
+int32_t inkmode = classyellow;
 uint64_t kink = defaultkink;
 
 int64_t width = 80;

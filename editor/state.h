@@ -1,6 +1,7 @@
-// The state of the editor: plain globals that live for the whole run. One session edits in one
-// window, so there is one of each; the texts themselves are in `sheets` (sheet.h), the shown cells in
-// the grids (grid.h).
+// The state that the parts of the editor share: plain globals that live for the whole run. There is
+// one of each, as one session edits in one window. The texts are in `sheets` (sheet.h), their edits
+// in `opers` (oper.h), the cells shown in the grids (grid.h); what one part alone needs it keeps to
+// itself.
 #pragma once
 
 #include <cstdint>
@@ -16,7 +17,7 @@ using Painter = void (*)();
 extern Str line;         // keys read and not yet consumed; whole keys whenever a command runs
 extern Painter repaint;  // the painter of the present mode; paintfile in the plain state
 extern bool suppressed;  // a command runs from within another: nobody paints until the outer ends
-extern bool painted;     // set by a command that brought the screen up to date all by itself
+extern bool painted;     // the present command needs no paint, or has moved the cursor itself
 extern bool showsfault;  // the mode of Vows shows a fault: the next key leaves it, then acts
 extern bool killchain;   // the next C-k starts `clip` afresh; set by every command but C-k
 
@@ -28,7 +29,7 @@ extern int64_t statshift;  // the first byte of `stat` shown, 0 or more
 extern Str currentname;  // the buffer on the screen, a key of `sheets`
 extern Str clip;         // the cut buffer, one for all buffers
 extern int64_t mark;     // where the selection starts, -1 for no selection; the point ends it
-extern int32_t inkmode;  // the class of typed bytes: 1 red, 2 green, 3 yellow
+extern int32_t inkmode;  // the class of typed bytes (pink.h): 1 red, 2 green, 3 yellow
 extern uint64_t kink;    // the palette, see kink.h
 
 // The window, in cells, the status row counted.
@@ -39,7 +40,7 @@ extern int64_t height;
 extern Str home;           // what "~/" stands for; begins and ends with "/"
 extern Str cwdpath;        // the working directory; begins and ends with "/"
 extern Str dotname;        // ".", the name of the scratch buffer
-extern int64_t starttime;  // seconds, the seed of the temporary names
+extern int64_t starttime;  // in seconds, as the C library counts them; seeds the temporary names
 
 extern int64_t selected;  // the row or entry picked in a list; its meaning is the prompt's own
 

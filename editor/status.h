@@ -1,4 +1,4 @@
-// The status text, the bell, and the two ways out of a prompt.
+// The status text, the bell, and the ways out of a prompt.
 #pragma once
 
 #include "foundation/str.h"
@@ -18,12 +18,12 @@ void leave();
 // Leaves, and ends the selection.
 void leaveunmarked();
 
-// Leaves, and lets the plain painter have its effects on the state, as if it had painted; the paint
+// Leaves, and lets the plain painter have its effects on the state as if it had painted. The paint
 // itself is owed.
 void leaveunpainted();
 
-// Makes a buffer, a key of `sheets`, the current one, and leaves. Its window is brought in line with
-// the size that the screen has now.
+// Makes a buffer, which must be a key of `sheets`, the current one, and leaves. Its window is
+// brought in line with the size that the screen has now.
 void switchbuffer(const Str& name);
 
 // Leaves the prompt and lets the key just read, the last whole key of `line`, act as it does in the

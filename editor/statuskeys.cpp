@@ -1,4 +1,4 @@
-// The commands that only touch the status row or the mode.
+// The commands that change nothing but the status row or the mode.
 #include "editor/commands.h"
 #include "editor/paint.h"
 #include "editor/state.h"

@@ -42,11 +42,11 @@ static void putreplaced(uint8_t* out, View text, View old, View fresh) {
 
 // The parts of an oper's data. The texts lie in the data, so that a large one is not held twice.
 struct SwapData {
-  int64_t end;
-  int64_t endafter;
-  View old;
-  View fresh;
-  View before;
+  int64_t end;       // of the range
+  int64_t endafter;  // of what it has become
+  View old;          // never empty
+  View fresh;        // may be empty
+  View before;       // the range as it stood
 };
 
 static Str number(int64_t n) { return str4(static_cast<uint32_t>(n)); }

@@ -17,7 +17,8 @@ static void entertaps() {
   setstat("");
 }
 
-// A digit adds to the count, any other key is what is put in: as it is, without ink.
+// A digit adds to the count, any other key is what is put in. On purpose: without ink, like the key
+// of Dent.
 static void typetaps(uint8_t key) {
   if (key >= '0' && key <= '9') return setstat(stat + strbyte(key));
   if (!oprun(stat, key)) return chirp();

@@ -14,7 +14,7 @@ static constexpr char alphabet[] = "0123456789ABCDEFGHIJKLMNOPQRUSTVWZXY";
 static constexpr uint32_t base = sizeof alphabet - 1;
 static_assert(base == 36);
 
-// Starts from the time at which the program did, and runs on from name to name.
+// Starts from the time at which the program did, and runs on from name to name; 0 before the first.
 static uint64_t counter = 0;
 
 static uint32_t randombit() {

@@ -9,8 +9,8 @@ static constexpr uint8_t esc = 0x1B;
 
 // What a sequence stands for.
 struct FunctionKey {
-  const char* sequence;
-  const char* keys;
+  const char* sequence;  // as terminals send it
+  const char* keys;      // as the editor's own keys
 };
 
 static constexpr FunctionKey functionkeys[] = {
@@ -73,10 +73,13 @@ static TableMatch matchtable(const uint8_t* bytes, int32_t n) {
 }
 
 static bool isfinal(uint8_t byte) { return byte >= 0x40 && byte <= 0x7E; }
-static bool isletter(uint8_t byte) { return isfinal(byte) && (byte & 0x5F) >= 'A' && (byte & 0x5F) <= 'Z'; }
 
-// The length of the control sequence at `bytes`, which begins with "ESC [", with the letter behind a
-// second "["; 0 where its end is not among the n bytes.
+static bool isletter(uint8_t byte) {
+  return (byte >= 'A' && byte <= 'Z') || (byte >= 'a' && byte <= 'z');
+}
+
+// The length of the control sequence at `bytes`, which begins with "ESC [", together with the
+// letter behind a second "["; 0 where its end is not among the n bytes.
 static int32_t sequencelength(const uint8_t* bytes, int32_t n) {
   int32_t i = 2;
   while (i < n && bytes[i] >= 0x20 && bytes[i] < 0x40) i++;
@@ -85,9 +88,10 @@ static int32_t sequencelength(const uint8_t* bytes, int32_t n) {
   return i + 1;
 }
 
-// The length of a key at the front that means nothing and is dropped, or 0. But for the function keys
-// of a bare console, "ESC [ [" and a letter, it must have come in one read, so that a typed Escape
-// is a key of its own. A function key behind a typed Escape goes with it.
+// The length of a key at the front that means nothing and is dropped, or 0. It must have come in
+// one read, so that a typed Escape is a key of its own; but for the function keys of a bare
+// console, "ESC [ [" and a letter, which nobody types. A function key behind a typed Escape goes
+// with it.
 static int32_t droppedlength(const TermKeys& t) {
   const uint8_t* bytes = t.bytes + t.start;
   int32_t n = t.end - t.start;

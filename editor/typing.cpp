@@ -1,10 +1,10 @@
-// Typing, deleting, and what is near to it: ink, the insert mode, undo and redo, the save.
+// Typing and deleting at the point, the ink and the mode in which that is done, and the way back.
 #include "editor/commands.h"
 #include "editor/history.h"
+#include "editor/pink.h"
 #include "editor/sheet.h"
 #include "editor/state.h"
 #include "editor/status.h"
-#include "editor/wholefile.h"
 #include "editor/window.h"
 #include "foundation/alphabet.h"
 
@@ -24,7 +24,7 @@ void tarnbackspace() {
   if (!opbackspace()) chirp();
 }
 
-// On purpose: in overwrite mode, where Backspace deletes nothing, neither does this.
+// On purpose: in overwrite mode, where Backspace deletes nothing, this deletes nothing either.
 void tarndelete() {
   sheet& s = currentsheet();
   if (s.point == size(s)) return chirp();
@@ -42,9 +42,9 @@ static void setink(int32_t ink) {
   inkmode = ink;
 }
 
-void tarndomr() { setink(1); }
-void tarndomg() { setink(2); }
-void tarndomy() { setink(3); }
+void tarndomr() { setink(classred); }
+void tarndomg() { setink(classgreen); }
+void tarndomy() { setink(classyellow); }
 
 void tarnundo() {
   if (!editback()) chirp();
@@ -56,11 +56,6 @@ void tarndocr() {
 
 void tarndomd() {
   if (!forgetall()) chirp();
-}
-
-void tarndocw() {
-  if (isclean(currentsheet())) return chirp();
-  savesheet();
 }
 
 }  // namespace tarn

@@ -1,4 +1,4 @@
-// The reordering of definitions.
+// The order of definitions that Escape-v brings about.
 #pragma once
 
 #include "foundation/str.h"

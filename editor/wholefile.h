@@ -1,7 +1,8 @@
-// Files are read and written whole, within one command. No format, no backup copy: the bytes as
-// they are. A file that cannot be opened, read, written, or closed after writing is a program fault,
-// and the text is lost; the file then holds as much as was written. Interruptions by signals, and
-// reads and writes cut short, are gone on from.
+// Files are read and written whole, within one command. There is no format and no backup copy: the
+// bytes as they are. On purpose: a file that cannot be opened, read, written, or closed after
+// writing is a program fault, and the text is lost; the file then holds as much as was written. No
+// save that failed can be taken for one that did not. A read or write that a signal interrupts, or
+// that is cut short, goes on.
 #pragma once
 
 #include "foundation/str.h"

@@ -16,13 +16,14 @@ namespace tarn {
 // then begin at multiples of the width.
 static constexpr int64_t linesearch = 4095;
 
-// The rows of the window as far as they have been walked.
+// The rows of the window as far as they have been walked. They hold as long as the sheet, its `top`
+// and the size of the screen are those that they were made for.
 struct Rows {
-  const sheet* owner;           // the sheet, and what else they depend on
+  const sheet* owner;  // null before the first use
   int64_t top;
   int64_t columns;
   int64_t lines;
-  std::vector<int64_t> starts;  // of the rows from `top` on, `lines` of them at most
+  std::vector<int64_t> starts;  // of the rows from `top` on, 1 to `lines` of them
   int64_t scanned;              // the last of them holds no newline before this offset
 };
 
@@ -52,8 +53,8 @@ static void refreshrows(sheet& s) {
   rows.scanned = std::max(rows.starts.back(), touched);
 }
 
-// Walks on to the next row, if it begins at or before offset i; false if it does not, as when the
-// text ends there, or when all rows of the window are known.
+// Walks on to the next row if that begins at or before offset i. False if it does not, be it that
+// the text ends there, and if all rows of the window are known.
 static bool walkrow(reader& r, int64_t i) {
   if (static_cast<int64_t>(rows.starts.size()) >= rows.lines) return false;
   int64_t full = rows.starts.back() + width;
@@ -135,10 +136,10 @@ int64_t previousrow(sheet& s, int64_t start) {
   return begin < start ? begin : rowstart(s, start - 1);
 }
 
-// The last rows of a walk forward, so that a row some way back can be told at its end.
+// The last rows of a walk forward, so that at its end a row some way back is known.
 struct RowRing {
-  std::vector<int64_t> starts;
-  int64_t walked;  // rows entered so far
+  std::vector<int64_t> starts;  // as many as must be known; row n at index n modulo their number
+  int64_t walked;               // rows entered so far
 };
 
 static void enterrow(RowRing& ring, int64_t start) {
@@ -158,6 +159,9 @@ static void walkrows(const sheet& s, RowRing& ring, int64_t begin, int64_t i) {
   }
 }
 
+// Walks forward from a line that begins early enough, and looks back from i. Where no line begins
+// there, the first line behind serves; the rows before it are those of a line without a known
+// start.
 int64_t rowsabove(sheet& s, int64_t i, int64_t above) {
   static RowRing ring = {};
   int64_t low = std::max<int64_t>(0, i - (above + 1) * width);
@@ -172,8 +176,8 @@ int64_t rowsabove(sheet& s, int64_t i, int64_t above) {
   int64_t row = ring.walked - 1 - above;
   if (row >= 0) return ring.starts[static_cast<size_t>(row) % ring.starts.size()];
   if (known) return 0;
-  // In the long line that ends just before `begin`; its last row counts.
-  return std::max<int64_t>(0, ((begin - 1) / width + row + 1) * width);
+  int64_t lastrow = (begin - 1) / width;  // of the line that ends just before `begin`
+  return std::max<int64_t>(0, (lastrow + 1 + row) * width);
 }
 
 }  // namespace tarn

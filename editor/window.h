@@ -1,6 +1,12 @@
-// The window onto a sheet: which wrapped rows of the text stand on the screen. A row is a line, or a
-// piece of exactly `width` bytes of a line; the newline of a line belongs to its last row, and stands
-// alone on a row of its own behind a full one. `top` is always the start of a row.
+// The window onto a sheet: which wrapped rows of the text stand on the screen. A row is a line, or
+// a piece of exactly `width` bytes of one. The newline of a line belongs to its last row; behind a
+// full row it stands alone on a row of its own. `top` is always the start of a row.
+//
+//   width 4, text "abcdef\nwxyz\n":     abcd     offsets  0 to  3
+//                                       ef,               4 to  6, the comma is the newline
+//                                       wxyz              7 to 10
+//                                       ,                11 to 11
+//                                                        12, the end of the text
 #pragma once
 
 #include <cstdint>
@@ -24,9 +30,9 @@ void recentre(sheet& s);
 // Moves `top` back to the start of its row, after the text before it or the width has changed.
 void aligntop(sheet& s);
 
-// The offset behind the last shown row: the start of the row below the window. Each row behind the end
-// of the text counts as one byte, so that it is larger than the size when the text ends within the
-// window, and the middle between it and `top` is the middle of the window.
+// The offset behind the last row shown, which is the start of the row below the window. Each empty
+// row behind the end of the text counts as one byte: so it is larger than the size when the text
+// ends within the window.
 int64_t windowbottom(sheet& s);
 
 // The start of the row that holds offset i, 0 to size inclusive.

@@ -63,13 +63,13 @@ static CellRef applyarray(Cell* head, CellRef x) {
 
 void fuzzinstall() {
   static AtomTable rules = atomrules;
-  static BuiltinRow rows[BUILTINS];
+  static BuiltinRow rows[builtincount];
   hostinstall();
-  for (int i = 0; i < BUILTINS; i++) {
+  for (int i = 0; i < builtincount; i++) {
     rows[i] = builtinrows[i];
     rows[i].fn = isharmless(rows[i].name) ? callguarded : answernothing;
   }
-  builtinuse(rows, BUILTINS);
+  builtinuse(rows, builtincount);
   rules.cray = applyarray;
   atomsuse(rules);
   evaluate("cray", 0);  // what is made once for the process does not count as lost

@@ -2,8 +2,8 @@
 // the table and its hand-over stands here.
 //
 // On purpose: three rows tell an arity that their function does not match. `fd_set` stands under
-// arity 0 though its function reads two arguments, `strtol` and `strtoul` under 2 though theirs read
-// three. A program that reaches one of them ends on the missing link.
+// arity 0 though its function reads two arguments, `strtol` and `strtoul` stand under 2 though
+// theirs read three. A program that reaches one of them ends on the missing link.
 #include "host/builtintable.h"
 
 #include "host/charcalls.h"
@@ -28,7 +28,7 @@
 
 namespace tarn {
 
-constexpr BuiltinRow builtinrows[BUILTINS] = {
+constexpr BuiltinRow builtinrows[builtincount] = {
     // arity 0, 32 rows
     {"abort",        0, hostabort},
     {"addrinfo",     0, hostaddrinfo},
@@ -303,7 +303,7 @@ static_assert([] {
 }());
 
 void hostinstall() {
-  builtinuse(builtinrows, BUILTINS);
+  builtinuse(builtinrows, builtincount);
   atomsuse(atomrules);
 }
 

@@ -1,7 +1,7 @@
 // The character classes of the C library.
 //
-// On purpose stricter than C: a value outside 0 to 255 is of no class, and keeps its case. C leaves
-// such a call undefined, and libraries read past their tables.
+// On purpose: these are stricter than C. A value outside 0 to 255 is of no class and keeps its
+// case. C leaves such a call undefined, and libraries read past the end of their tables.
 #pragma once
 
 #include <ctype.h>

@@ -1,5 +1,5 @@
-// The numbers that programs compare with, by the platform's own values: error numbers, sizes of
-// records, flags; and the three words that are read anew at each use.
+// The builtins of no argument that answer a number of the platform: error numbers, sizes and
+// limits. Three of them, errno and the two streams, are read anew at each use.
 #pragma once
 
 #include <cerrno>

@@ -10,7 +10,7 @@ namespace tarn {
 
 FILE* fileopened(int fd, const char* mode);                // fdopen
 int filedescriptor(FILE* file);                            // fileno
-char* filename(char* out);                                 // tmpnam
+char* filetempname(char* out);                             // tmpnam
 int64_t fileread(int fd, void* to, size_t n);              // read
 int64_t filewrite(int fd, const void* from, size_t n);     // write
 

@@ -14,7 +14,7 @@ int64_t fileread(int fd, void* to, size_t n) { return read(fd, to, n); }
 int64_t filewrite(int fd, const void* from, size_t n) { return write(fd, from, n); }
 
 // A name that no file has, as tmpnam gives one; the linker warns of every program that calls that.
-char* filename(char* out) {
+char* filetempname(char* out) {
   static char own[L_tmpnam];
   if (out == nullptr) out = own;
   strcpy(out, "/tmp/fileXXXXXX");

@@ -1,5 +1,5 @@
-// Directories as programs read them: the address of a handle, and of a `dirent` record for each
-// entry. 0 is a failure, with errno set, or the end.
+// Directories as programs of the language read them: by the address of a handle, and of a `dirent`
+// record for each entry. A null answer is a failure, with errno set, or the end.
 #pragma once
 
 #include <cstdint>

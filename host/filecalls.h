@@ -14,7 +14,7 @@ using PutFn = int(int, FILE*);
 inline constexpr BuiltinFn hostfopen = call<"ss", 'i', FILE*(const char*, const char*), fopen>;
 inline constexpr BuiltinFn hostfdopen = call<"ns", 'i', FILE*(int, const char*), fileopened>;
 inline constexpr BuiltinFn hosttmpfile = call<"", 'i', FILE*(), tmpfile>;
-inline constexpr BuiltinFn hosttmpnam = call<"n", 'i', char*(char*), filename>;
+inline constexpr BuiltinFn hosttmpnam = call<"n", 'i', char*(char*), filetempname>;
 inline constexpr BuiltinFn hostremove = call<"s", 'i', int(const char*), remove>;
 inline constexpr BuiltinFn hostrename = call<"ss", 'i', int(const char*, const char*), rename>;
 

@@ -36,8 +36,9 @@ inline constexpr BuiltinFn hostnextafter = call<"dd", 'r', RealFn2, nextafter>;
 inline constexpr BuiltinFn hostpow = call<"dd", 'r', RealFn2, pow>;
 
 inline constexpr BuiltinFn hostldexp = call<"dn", 'r', double(double, int), ldexp>;
-inline constexpr BuiltinFn hostfrexp = call<"dn", 'r', double(double, int*), frexp>;  // exponent to
-inline constexpr BuiltinFn hostmodf = call<"dn", 'r', double(double, double*), modf>;  // whole to
+// The second argument is the address that takes the exponent, or the whole part.
+inline constexpr BuiltinFn hostfrexp = call<"dn", 'r', double(double, int*), frexp>;
+inline constexpr BuiltinFn hostmodf = call<"dn", 'r', double(double, double*), modf>;
 
 inline constexpr BuiltinFn hostabs = call<"n", 'i', int(int), abs>;
 inline constexpr BuiltinFn hostlabs = call<"n", 'i', long(long), labs>;

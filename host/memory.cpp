@@ -144,6 +144,7 @@ CellRef& relwrite(CellRef& out, CellRef application) {
   return out = std::move(target);
 }
 
+// The headers of the templates stand in memory.h, so that their four widths are made here.
 #define FAMILY(width) \
   template CellRef& recread<width>(CellRef&, CellRef); \
   template CellRef& recwrite<width>(CellRef&, CellRef); \

@@ -1,6 +1,6 @@
-// Typed memory: forty builtins, `re` + family + width, that read and write one number of 1, 2, 4 or
-// 8 bytes, in the byte order of the machine and wherever it stands; and those that move whole values
-// between cells and memory.
+// Typed memory: forty builtins, `re` + family + width, each of which reads or writes one number of
+// 1, 2, 4 or 8 bytes, in the byte order of the machine and at any address; and the builtins that
+// move whole values between cells and memory.
 //
 //   family   target                         index                  a write answers
 //   rec      the content of a zits          tested, -1 the last    a new zits, or Z: out of balance
@@ -13,15 +13,16 @@
 //   read     h  i  j  k    unsigned
 //   write    l  m  n  o    the low bytes of the value
 //
-// On purpose red, ref and rem change what other terms may share: that is how a program fills a
-// buffer without copying it. An argument of the wrong kind and a tested index out of range answer Z.
+// On purpose: red, ref and rem change what other terms may share. That is how a program fills a
+// buffer without copying it. An argument of the wrong kind, and a tested index that is out of
+// range, answer Z; a raw index and an address are not looked at.
 #pragma once
 
 #include "graph/builtins.h"
 
 namespace tarn {
 
-// An access by one family: read gives the number at an index, write what the write answers.
+// The accesses of each family, by width: 1, 2, 4 or 8 bytes.
 template <int width> CellRef& recread(CellRef& out, CellRef application);
 template <int width> CellRef& recwrite(CellRef& out, CellRef application);
 template <int width> CellRef& redread(CellRef& out, CellRef application);
@@ -33,10 +34,10 @@ template <int width> CellRef& relwrite(CellRef& out, CellRef application);
 template <int width> CellRef& remread(CellRef& out, CellRef application);
 template <int width> CellRef& remwrite(CellRef& out, CellRef application);
 
-CellRef memorypost(Cell* address, Cell* n);   // `post`: a post of n bytes from there
-CellRef memorycopy(Cell* x, Cell* address);   // `copy`: the bytes of x to there, no NUL behind
-// `leak`: the address of a cell, which from now on is never freed; `bond`: the cell at an address.
-CellRef memoryleak(Cell* x);
-CellRef memorybond(Cell* address);
+// Whole values. Like all functions over values these lend their arguments and give the answer.
+CellRef memorypost(Cell* address, Cell* n);  // `post`: a post of the n bytes at the address
+CellRef memorycopy(Cell* x, Cell* address);  // `copy`: the bytes of x to the address, without a NUL
+CellRef memoryleak(Cell* x);                 // `leak`: the address of x, which is never freed again
+CellRef memorybond(Cell* address);           // `bond`: the cell at the address; not 0
 
 }  // namespace tarn

@@ -1,5 +1,6 @@
 // The sockets of the platform. Each function has the meaning and the results of the C function of
-// the same name; what programs hand in is passed on untested. A socket is an integer, -1 a failure.
+// the same name. What programs hand in, addresses and lengths alike, is passed on untested. A
+// socket is an integer, and -1 a failure.
 #pragma once
 
 #include <cstdint>

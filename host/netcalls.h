@@ -1,4 +1,4 @@
-// Sockets and directories for programs.
+// The rows of the sockets and the directories: the calls of net.h and dirs.h as builtins.
 #pragma once
 
 #include "host/dirs.h"
@@ -51,7 +51,7 @@ inline constexpr BuiltinFn hosthtons = call<"n", 'i', int64_t(uint16_t), nethton
 inline constexpr BuiltinFn hostntohl = call<"n", 'u', uint64_t(uint32_t), netntohl>;
 inline constexpr BuiltinFn hostntohs = call<"n", 'u', uint64_t(uint16_t), netntohs>;
 
-// On purpose `fd_set` reads two arguments and stands in the table with none: a program that names
+// On purpose: `fd_set` reads two arguments and stands in the table with none: a program that names
 // it ends in the failure of asking a leaf for its right link.
 inline constexpr BuiltinFn hostfd_set = call<"nn", 'I', void(int64_t, void*), netfdset>;
 

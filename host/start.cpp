@@ -1,4 +1,5 @@
-// What a program that evaluates does first.
+// The start of every program that evaluates. On a system whose sockets need no start netstart
+// cannot fail, so the words name the one library that can.
 #include "host/start.h"
 
 #include <cstdio>

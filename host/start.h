@@ -1,4 +1,4 @@
-// What a program that evaluates does first.
+// The start of every program that evaluates.
 #pragma once
 
 namespace tarn {

@@ -1,4 +1,4 @@
-// The builtin `assert`: a program's own check ends the process like the program's checks do.
+// `assert`: the check of a program of the language ends the process as a check of Tarn's own does.
 #include "host/systemcalls.h"
 
 namespace tarn {

@@ -1,4 +1,4 @@
-// The process, its environment and its clock; and the one builtin that ends it by a rule.
+// The process, its environment and its clock, and `assert`, which may end the process.
 #pragma once
 
 #include <signal.h>

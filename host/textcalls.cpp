@@ -1,4 +1,4 @@
-// The one call on memory that looks at its count before it goes to the C library.
+// `bzero`, the one call on memory that looks at its count before it does anything.
 #include "host/textcalls.h"
 
 namespace tarn {

@@ -26,7 +26,7 @@ using CompareFnN = int(const char*, const char*, size_t);
 inline constexpr BuiltinFn hostatof = call<"s", 'r', double(const char*), atof>;
 inline constexpr BuiltinFn hostatol = call<"s", 'i', long(const char*), atol>;
 inline constexpr BuiltinFn hoststrtod = call<"sn", 'r', double(const char*, char**), strtod>;
-// On purpose these two read three arguments and stand in the table with two: a program that calls
+// On purpose: these two read three arguments and stand in the table with two: a program that calls
 // one of them ends in the failure of asking a leaf for its right link.
 inline constexpr BuiltinFn hoststrtol = call<"snn", 'i', long(const char*, char**, int), strtol>;
 inline constexpr BuiltinFn hoststrtoul =

@@ -32,12 +32,14 @@
 
 namespace tarn {
 
-// What a class letter makes of an argument, lent; false if it is of the wrong kind.
+// What a class letter makes of an argument. One of the two values holds, by the letter.
 struct CallArgument {
   int64_t word;    // n, w, s: the integer, or the address
   double real;     // d
-  CellRef holder;  // s: the flat form of a rope, kept for the call; else null
+  CellRef holder;  // s: the flat form of a zits, kept for as long as the call; else null
 };
+
+// Lends x. False, and nothing is set, if x is not of the letter's class.
 bool callargument(CallArgument& out, char letter, Cell* x);
 
 // The letters of a row, as a template argument.
@@ -62,6 +64,7 @@ C callvalue(const CallArgument& x) {
   }
 }
 
+// The answer that the letter of a result makes of what the C function gave back.
 template <char result, typename R>
 CellRef callresult(R r) {
   if constexpr (result == 'r') {
@@ -77,6 +80,7 @@ CellRef callresult(R r) {
   }
 }
 
+// Calls the C function. errno is left as it left it, whatever making the answer does.
 template <char result, typename R, typename... P, size_t... i>
 CellRef callmade(R (*function)(P...), const CallArgument* arguments, std::index_sequence<i...>) {
   (void)arguments;
@@ -92,8 +96,7 @@ CellRef callmade(R (*function)(P...), const CallArgument* arguments, std::index_
   }
 }
 
-// The builtin itself. The arguments are tested from the first to the last. errno is left as the C
-// function left it.
+// The builtin itself. The arguments are tested from the first to the last.
 template <Letters letters, char result, typename Signature, Signature* function>
 CellRef& call(CellRef& out, CellRef application) {
   constexpr size_t count = letters.count;

@@ -11,7 +11,8 @@ need() {
   local missing=()
   local package
   for package in "$@"; do
-    dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
+    dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' ||
+      missing+=("$package")
   done
   [ ${#missing[@]} -eq 0 ] && return 0
   echo "Installing ${missing[*]}" >&2

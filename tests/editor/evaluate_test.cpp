@@ -38,8 +38,8 @@ struct Evaluate : testing::Test {
   }
 };
 
-// The terminal has the marks in bright red on its own background. Known to be shown is another cell,
-// foreground 0 on background 9, so that this one alone would not be sent again.
+// The terminal has the marks in bright red on its own background. The cell known to be shown is
+// another, foreground 0 on background 9, so that this one alone would not be sent again.
 TEST_F(Evaluate, TheWholeScreenIsMarks) {
   Buffer b("1+2");
   EXPECT_EQ(written("\x1B" "e"), "\x1B[1;1H\x1B[J\x1B[mEval\n"

@@ -87,7 +87,8 @@ TEST(Keysdone, GoesOnFromAnyWholeText) {
   for (size_t cut = 0; cut <= bytes.size(); cut++) {
     if (!done(bytes.substr(0, cut))) continue;
     for (size_t end = cut; end <= bytes.size(); end++) {
-      EXPECT_EQ(done(bytes.substr(0, end)), done(bytes.substr(cut, end - cut))) << cut << " " << end;
+      EXPECT_EQ(done(bytes.substr(0, end)), done(bytes.substr(cut, end - cut)))
+          << cut << " " << end;
     }
   }
 }

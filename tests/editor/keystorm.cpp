@@ -10,6 +10,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -220,7 +221,8 @@ int main(int argc, char** argv) {
     char top[] = "/tmp/tarnXXXXXX";
     if (mkdtemp(top) == nullptr) return 2;
     Storm storm = {std::mt19937_64(seed), std::string(top) + "/a/b/c/d/e/f/g/h", "", ""};
-    runbout(storm, std::filesystem::absolute(argv[1]), static_cast<int>(std::min<long>(keys, boutkeys)));
+    runbout(storm, std::filesystem::absolute(argv[1]),
+            static_cast<int>(std::min<long>(keys, boutkeys)));
     std::error_code error;
     std::filesystem::remove_all(top, error);
     if (storm.fault.empty()) continue;

@@ -197,7 +197,8 @@ TEST_F(Paint, TheInkCell) {
   for (int32_t mode = 1; mode <= 3; mode++) {
     inkmode = mode;
     paintword("File");
-    EXPECT_EQ(cell(4, 0), gridcell(8 + static_cast<uint32_t>(mode), 8 + static_cast<uint32_t>(mode), ' '));
+    uint32_t colour = 8 + static_cast<uint32_t>(mode);
+    EXPECT_EQ(cell(4, 0), gridcell(colour, colour, ' '));
   }
   paintword("Byte");
   EXPECT_EQ(cell(4, 0), 0x8820);

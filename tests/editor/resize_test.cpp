@@ -60,8 +60,8 @@ TEST(Resize, TheLastOfManyIsShown) {
   EXPECT_EQ(picture(session.terminal, true), before);
 }
 
-// A window dragged about while somebody types, faster than either can be answered: every key counts,
-// and the screen is that of the last size.
+// A window dragged about while somebody types, faster than either can be answered: every key
+// counts, and the screen is that of the last size.
 TEST(Resize, TenThousandInABurstLoseNoKey) {
   std::string path = testing::TempDir() + "tarn_resize_burst", typed;
   std::ofstream(path).close();

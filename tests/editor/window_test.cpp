@@ -296,7 +296,7 @@ TEST_F(Window, TheRowsRememberedAreTheRowsOfTheText) {
     ASSERT_LE(start, s.point);
     int64_t next = nextrow(s, start);
     ASSERT_TRUE(next < 0 || next > s.point) << step;
-    ASSERT_TRUE(s.top == 0 || byteat(s, s.top - 1) == '\n' || (s.top - rowsabove(s, s.top, 0)) == 0);
+    ASSERT_TRUE(s.top == 0 || byteat(s, s.top - 1) == '\n' || rowsabove(s, s.top, 0) == s.top);
   }
 }
 
