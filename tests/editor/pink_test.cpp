@@ -129,6 +129,7 @@ TEST_F(Pink, TheTableFollowsStateAndPalette) {
     expectpresent();
     b.s().insertmode = 1;
     expectpresent();
+    sheetdrop(b.s());
     b.s() = sheetnew("a");
   }
 }
