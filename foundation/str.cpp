@@ -11,6 +11,10 @@ static uint8_t emptybytes[1] = {0};
 
 constinit StrRecord Str::emptyrecord = {0, emptybytes, 1};
 
+static StrCounts counts = {};
+
+StrCounts strcounts() { return counts; }
+
 // The size to ask malloc for: all ones where the true size would wrap or n is negative, so that an
 // impossible request fails there. The result of malloc is used as it is.
 static size_t recordsize(int64_t n) {
@@ -19,13 +23,23 @@ static size_t recordsize(int64_t n) {
   return wraps || n < 0 ? SIZE_MAX : static_cast<size_t>(size);
 }
 
-Str strsized(int64_t n) {
-  if (n == 0) return Str();
-  StrRecord* record = static_cast<StrRecord*>(malloc(recordsize(n)));
+// With room for n bytes; neither they nor the NUL are set.
+static StrRecord* recordmade(int64_t n) {
+  if constexpr (checking) {
+    counts.made++;
+    counts.alive++;
+  }
+  StrRecord* record = static_cast<StrRecord*>(blockmake(recordsize(n)));
   record->len = n;
   record->bytes = reinterpret_cast<uint8_t*>(record + 1);
-  record->bytes[n] = 0;
   record->refs = 1;
+  return record;
+}
+
+Str strsized(int64_t n) {
+  if (n == 0) return Str();
+  StrRecord* record = recordmade(n);
+  record->bytes[n] = 0;
   return Str(record);
 }
 
@@ -47,16 +61,16 @@ Str::Str(const void* bytes, int64_t n) : Str(strsized(n)) {
   if (n != 0) memmove(record->bytes, bytes, static_cast<size_t>(n));
 }
 
-void Str::free(StrRecord* dead) { ::free(dead); }
+void Str::free(StrRecord* dead) {
+  if constexpr (checking) counts.alive--;
+  blockdrop(dead);
+}
 
 // An empty text is cloned too: its one writable byte is the NUL, and that must be its own.
 void Str::unshare() {
-  StrRecord* clone = static_cast<StrRecord*>(malloc(recordsize(record->len)));
-  clone->len = record->len;
-  clone->bytes = reinterpret_cast<uint8_t*>(clone + 1);
-  clone->refs = 1;
+  StrRecord* clone = recordmade(record->len);
   memcpy(clone->bytes, record->bytes, static_cast<size_t>(record->len) + 1);
-  record->refs--;
+  release();
   record = clone;
 }
 

@@ -14,6 +14,7 @@
 #include <cstdint>
 #include <utility>
 
+#include "foundation/checking.h"
 #include "foundation/diag.h"
 
 namespace tarn {
@@ -28,9 +29,13 @@ struct Str {
   Str() noexcept : record(&emptyrecord) { record->refs++; }
   Str(const char* text);               // up to the NUL
   Str(const void* bytes, int64_t n);   // n bytes, copied
-  Str(const Str& other) noexcept : record(other.record) { record->refs++; }
+  Str(const Str& other) noexcept : record(other.record) {
+    checkalive(record);
+    record->refs++;
+  }
   Str(Str&& other) noexcept : Str() { std::swap(record, other.record); }
   Str& operator=(const Str& other) noexcept {
+    checkalive(other.record);
     other.record->refs++;  // before the release, so that assigning to itself is safe
     release();
     record = other.record;
@@ -64,7 +69,7 @@ struct Str {
   }
   // All bytes to write to, unshared as for ref; valid until this Str is copied or assigned.
   uint8_t* own() {
-    if (record->refs != 1) unshare();
+    if (!alone(record->refs)) unshare();
     return record->bytes;
   }
 
@@ -87,7 +92,11 @@ struct Str {
   static StrRecord emptyrecord;  // its own reference keeps it alive for ever
 
   explicit Str(StrRecord* made) noexcept : record(made) {}
+  static void checkalive(const StrRecord* r) {
+    if constexpr (checking) check(r->refs != 0 && r->refs < deadword);
+  }
   void release() {
+    checkalive(record);
     if (--record->refs == 0) free(record);
   }
   static void free(StrRecord* dead);
@@ -97,6 +106,14 @@ struct Str {
 Str strsized(int64_t n);   // n bytes, not set but for the final NUL; own() writes them
 Str strbyte(uint8_t c);    // the text of that one byte
 Str strnumber(int64_t n);  // decimal, "-" in front of a negative one
+
+// How many records there are and were, since the start of the process. Only the checking build
+// (checking.h) counts them; all 0 otherwise.
+struct StrCounts {
+  int64_t made;
+  int64_t alive;
+};
+StrCounts strcounts();
 
 Str operator+(const Str& a, const Str& b);
 Str operator+(const char* a, const Str& b);

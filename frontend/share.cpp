@@ -67,7 +67,7 @@ Shared share(Cell* term, Seen& seen) {
   auto known = sharetable().hashes.find(term);
   if (known != sharetable().hashes.end()) return {cellcopy(term), known->second};
   if (cellisleaf(term)) return enter(cellcopy(term), hashleaf(term));
-  if (cellrefs(term) == 1) return sharepair(term, seen);
+  if (alone(cellrefs(term))) return sharepair(term, seen);
   auto before = seen.find(term);
   if (before != seen.end()) return before->second;
   return seen.emplace(term, sharepair(term, seen)).first->second;

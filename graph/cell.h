@@ -40,6 +40,7 @@
 #include <cstdint>
 #include <cstring>
 
+#include "foundation/checking.h"
 #include "foundation/diag.h"
 #include "foundation/str.h"
 
@@ -65,8 +66,13 @@ constexpr int CELLMINARITY = -51;   // application does not lower it any further
 
 void cellfreed(Cell* c);  // its last reference is gone: see release.cpp
 
+inline void cellcheckalive(const Cell* c) {
+  if constexpr (checking) check((c->header & CELLREFS) != 0);
+}
+
 // One more reference to c, for the caller to keep somewhere. A billion of them is the limit.
 inline Cell* cellhold(Cell* c) {
+  cellcheckalive(c);
   c->header++;
   check((c->header & CELLREFS) != 0);
   return c;
@@ -74,6 +80,7 @@ inline Cell* cellhold(Cell* c) {
 
 // Gives up one reference to c. The last one frees the cell, and may run a finaliser (release.cpp).
 inline void cellunhold(Cell* c) {
+  cellcheckalive(c);
   if ((--c->header & CELLREFS) == 0) cellfreed(c);
 }
 
@@ -128,7 +135,10 @@ inline uint64_t cellrefs(const Cell* c) { return c->header & CELLREFS; }
 inline uint64_t cellfield(const Cell* c) { return (c->header & CELLFIELD) >> CELLFIELDSHIFT; }
 inline bool cellisleaf(const Cell* c) { return (c->header & CELLLEAF) != 0; }
 inline bool cellispair(const Cell* c) { return (c->header & CELLLEAF) == 0; }
-inline bool cellannotated(const Cell* c) { return (c->header & (CELLCODE | CELLFLAG)) != 0; }
+inline bool cellannotated(const Cell* c) {
+  cellcheckalive(c);
+  return (c->header & (CELLCODE | CELLFLAG)) != 0;
+}
 
 // The text bytes of a leaf, NUL behind them; not for a Pair.
 inline uint8_t* leafbytes(const Cell* c) {

@@ -11,24 +11,21 @@ CellStore cellstore = {};
 constexpr int64_t RECORD = 24;
 constexpr int64_t BLOCK = 4096 * RECORD;
 
-#ifdef __SANITIZE_ADDRESS__
+static int64_t apart = 0;  // records in use that are blocks of their own
 
-static int64_t inuse = 0;
-
-void* storefresh() {
-  inuse++;
-  if (inuse > cellstore.room) cellstore.room = inuse;
-  return malloc(RECORD);
+static void* freshapart() {
+  apart++;
+  if (apart > cellstore.room) cellstore.room = apart;
+  return blockmake(RECORD);
 }
 
-void storegiveback(void* r) {
-  inuse--;
-  free(r);
+void storedropapart(void* r) {
+  apart--;
+  blockdrop(r);
 }
 
-#else
-
 void* storefresh() {
+  if constexpr (recordsapart) return freshapart();
   static char* at = nullptr;
   static char* end = nullptr;
   if (at == end) {
@@ -40,8 +37,6 @@ void* storefresh() {
   at += RECORD;
   return r;
 }
-
-#endif
 
 // The hidden word, the header, the text and its NUL; all ones where that wraps, so that malloc
 // refuses. An array of n bytes gets one byte more than it needs: it reads as the text "\n" then.
@@ -59,14 +54,14 @@ Cell* storeleaf(int64_t n) {
   cellstore.made++;
   cellstore.longs++;
   if (cellstore.longs > cellstore.longest) cellstore.longest = cellstore.longs;
-  uint64_t* block = static_cast<uint64_t*>(malloc(leafblock(n)));
+  uint64_t* block = static_cast<uint64_t*>(blockmake(leafblock(n)));
   block[0] = 0;
   return reinterpret_cast<Cell*>(block + 1);
 }
 
 Cell* storeregrown(Cell* c, int64_t n) {
   if ((leafhint(c) & CELLSHORT) == 0) {
-    uint64_t* block = static_cast<uint64_t*>(realloc(c - 1, leafblock(n)));
+    uint64_t* block = static_cast<uint64_t*>(blockgrow(c - 1, leafblock(n)));
     return reinterpret_cast<Cell*>(block + 1);
   }
   Cell* grown = storeleaf(n);
@@ -83,7 +78,7 @@ void storefreeleaf(Cell* c) {
     storegiveback(block);
   } else {
     cellstore.longs--;
-    free(block);
+    blockdrop(block);
   }
 }
 

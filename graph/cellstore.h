@@ -5,8 +5,8 @@
 //   Pair        header, left, right
 //   short leaf  hidden word, header, up to 7 bytes of text and their NUL
 //
-// Under an address checker each record is a block of malloc of its own, so that a use after the
-// last reference is found.
+// Under an address checker, and in the checking build, each record is a block of its own, so that a
+// use after the last reference is found.
 #pragma once
 
 #include <cstdint>
@@ -29,8 +29,14 @@ extern CellStore cellstore;
 constexpr uint64_t CELLSHORT = 1;     // in the hidden word: the leaf is a record of the store
 constexpr int64_t CELLSHORTTEXT = 7;  // most bytes of text in one
 
-void* storefresh();           // a record never used before
-void storegiveback(void* r);  // r can be handed out again
+#ifdef __SANITIZE_ADDRESS__
+constexpr bool recordsapart = true;
+#else
+constexpr bool recordsapart = checking;
+#endif
+
+void* storefresh();            // a record never used before
+void storedropapart(void* r);  // r was a block of its own
 
 inline void* storerecord() {
   cellstore.made++;
@@ -38,6 +44,13 @@ inline void* storerecord() {
   if (r == nullptr) return storefresh();
   cellstore.free = static_cast<void**>(*r);
   return r;
+}
+
+// r can be handed out again.
+inline void storegiveback(void* r) {
+  if constexpr (recordsapart) return storedropapart(r);
+  *static_cast<void**>(r) = cellstore.free;
+  cellstore.free = static_cast<void**>(r);
 }
 
 // A Pair with that header, taking over the references that the caller holds to both links.
@@ -56,13 +69,6 @@ inline void storefreepair(Cell* c) {
 Cell* storeleaf(int64_t n);     // for n bytes of text and a NUL; nothing is set but the hidden word
 Cell* storeregrown(Cell* c, int64_t n);  // a leaf with room for n bytes instead; its text is kept
 void storefreeleaf(Cell* c);
-
-#ifndef __SANITIZE_ADDRESS__
-inline void storegiveback(void* r) {
-  *static_cast<void**>(r) = cellstore.free;
-  cellstore.free = static_cast<void**>(r);
-}
-#endif
 
 // A leaf with exactly that text.
 inline bool istodo(const Cell* c) {

@@ -22,12 +22,13 @@ static void splitfocus(State& s, Cell*& l, Cell*& b) {
   Cell* f = s.focus;
   l = leftlink(f);
   b = rightlink(f);
-  if (cellrefs(f) == 1) {
+  if (alone(cellrefs(f))) {
     storefreepair(f);  // no finaliser: those are values, and a value is never split
   } else {
     cellhold(l);
     cellhold(b);
-    f->header--;
+    if constexpr (checking) cellunhold(f);
+    else f->header--;
   }
 }
 

@@ -115,7 +115,7 @@ static CellRef corkflat(const Cork& cork) {
 static CellRef corkzits(const Cork& cork) {
   if (cellisleaf(cork.x)) return corkflat(cork);
   CellRef flat = zitsflat(cork.x);
-  return corkflat({flat, cork.i, cork.v, true});
+  return corkflat({flat, cork.i, cork.v, alone(cellrefs(flat))});
 }
 
 static CellRef corkcray(const Cork& cork) {

@@ -29,9 +29,9 @@ inline Cell* thirdlastarg(const Cell* f) { return rightlink(leftlink(leftlink(f)
 // of the Pairs on the way to it. Such a value may be changed; nobody can look at the old one again.
 inline bool ownsfirst(const Cell* f, int n) {
   for (; n > 1; n--, f = leftlink(f)) {
-    if (cellrefs(f) != 1) return false;
+    if (!alone(cellrefs(f))) return false;
   }
-  return cellrefs(f) == 1 && cellrefs(rightlink(f)) == 1;
+  return alone(cellrefs(f)) && alone(cellrefs(rightlink(f)));
 }
 
 template <CellRef (*work)()>

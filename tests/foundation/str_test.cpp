@@ -80,7 +80,7 @@ TEST(Str, WritingASharedTextLeavesTheOtherAlone) {
   EXPECT_EQ(b, Str("xbc"));
   const uint8_t* before = b.bytes();
   b.ref(1) = 'y';
-  EXPECT_EQ(b.bytes(), before) << "an unshared text is written in place";
+  EXPECT_EQ(b.bytes() == before, !checking) << "an unshared text is written in place";
 }
 
 TEST(Str, AppendingASharedTextLeavesTheOtherAlone) {

@@ -46,7 +46,7 @@ TEST_F(Access, CorkChangesWhatNobodyElseHolds) {
   for (CellRef& x : changeables()) {
     Cell* cell = x;
     CellRef changed = corked(corking(std::move(x), leaf("0"), leaf("65")));
-    EXPECT_EQ(changed, cell);
+    EXPECT_EQ(changed == cell, !checking);
     EXPECT_EQ(cellrefs(changed), 1u);
   }
 }
@@ -108,7 +108,7 @@ TEST_F(Access, AppendingGrowsWhatNobodyElseHolds) {
   Cell* grown = out;  // there is room in its block now
   CellRef next;
   callpowa(next, appending("powa", std::move(out), leafbyte('3')));
-  EXPECT_EQ(next, grown);
+  EXPECT_EQ(next == grown, !checking);
   EXPECT_EQ(crayslots(next), 3);
   EXPECT_EQ(textof(crayget(next, 2)), "3");
 }
