@@ -6,6 +6,7 @@
 #include <cstring>
 
 #include "editor/reader.h"
+#include "foundation/diag.h"
 
 namespace tarn {
 

@@ -12,6 +12,7 @@
 #include "editor/history.h"
 #include "editor/reader.h"
 #include "editor/window.h"
+#include "foundation/diag.h"
 #include "foundation/text.h"
 
 namespace tarn {

@@ -4,8 +4,6 @@
 
 #include <cstdint>
 
-#include "foundation/str.h"
-
 namespace tarn {
 
 // Runs the command that answers `line`, which must hold whole keys, and then `repaint`, unless

@@ -6,6 +6,7 @@
 #include "editor/digits.h"
 #include "editor/history.h"
 #include "editor/window.h"
+#include "foundation/diag.h"
 
 namespace tarn {
 

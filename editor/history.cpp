@@ -2,8 +2,11 @@
 // text.
 #include "editor/history.h"
 
+#include <vector>
+
 #include "editor/edits.h"
 #include "editor/state.h"
+#include "foundation/diag.h"
 
 namespace tarn {
 

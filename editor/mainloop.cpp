@@ -16,9 +16,15 @@
 #include "editor/state.h"
 #include "editor/wholefile.h"
 #include "editor/window.h"
+#include "foundation/diag.h"
 #include "host/start.h"
 
 namespace tarn {
+
+void bail(const Str& message) {
+  outstream << message;
+  exit(1);
+}
 
 // On purpose: the random numbers are the same in each run, so that what a program or a command does
 // with them can be repeated.
@@ -41,7 +47,7 @@ static void openargument(const Str& argument) {
   Str path = normalise(argument);
   if (path.empty()) bail("Cannot normalize file: " + argument + "\n");
   if (!isfile(path)) bail("Cannot open file: " + path + "\n");
-  if (sheets.find(path) == sheets.end()) {
+  if (!sheets.contains(path)) {
     openrecord(path);
     sheets[path] = sheetnew(readwhole(path));
   }

@@ -1,7 +1,6 @@
 // Names of files: the working out of segments.
 #include "editor/paths.h"
 
-#include <cstdlib>
 #include <vector>
 
 #include "editor/state.h"
@@ -45,20 +44,20 @@ static bool settle(const Str& path, Str& settled) {
   return true;
 }
 
-Str normalise(Str text) {
+Str normalise(const Str& text) {
   check(!text.empty());
   check(text.at(text.len() - 1) != '/');
   Str settled;
   return settle(absolute(text), settled) ? settled : Str();
 }
 
-Str normalisedir(Str text) {
+Str normalisedir(const Str& text) {
   if (text.empty()) return "/";
   Str settled;
   return settle(absolute(text), settled) ? settled + "/" : Str();
 }
 
-Str parentdir(Str path) {
+Str parentdir(const Str& path) {
   int64_t n = path.len();
   while (n > 0 && path.at(n - 1) != '/') n--;
   return path.substr(0, n);
@@ -74,11 +73,6 @@ Str drivelesspath(const Str& told) {
     if (bytes[i] == '\\') bytes[i] = '/';
   }
   return path.at(path.len() - 1) == '/' ? path : path + "/";
-}
-
-void bail(const Str& message) {
-  outstream << message;
-  exit(1);
 }
 
 }  // namespace tarn

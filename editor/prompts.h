@@ -7,8 +7,6 @@
 #include <span>
 #include <string_view>
 
-#include "foundation/str.h"
-
 namespace tarn {
 
 // A key that a prompt answers in its own way.

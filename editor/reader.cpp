@@ -4,8 +4,6 @@
 
 #include <cstring>
 
-#include "foundation/diag.h"
-
 namespace tarn {
 
 bool readto(reader& r, int64_t i) {

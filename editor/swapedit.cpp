@@ -12,6 +12,7 @@
 #include "editor/edits.h"
 #include "editor/history.h"
 #include "editor/window.h"
+#include "foundation/diag.h"
 #include "foundation/text.h"
 
 namespace tarn {

@@ -6,6 +6,7 @@
 // theirs read three. A program that reaches one of them ends on the missing link.
 #include "host/builtintable.h"
 
+#include "graph/atoms.h"
 #include "host/charcalls.h"
 #include "host/constants.h"
 #include "host/filecalls.h"

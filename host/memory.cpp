@@ -3,11 +3,10 @@
 
 #include <cstring>
 
-#include "values/access.h"
+#include "foundation/diag.h"
 #include "values/answer.h"
 #include "values/coerce.h"
 #include "values/post.h"
-#include "values/real.h"
 #include "values/zits.h"
 
 namespace tarn {

@@ -18,7 +18,7 @@
 // range, answer Z; a raw index and an address are not looked at.
 #pragma once
 
-#include "graph/builtins.h"
+#include "graph/cell.h"
 
 namespace tarn {
 

@@ -1,6 +1,9 @@
 // `assert`: the check of a program of the language ends the process as a check of Tarn's own does.
 #include "host/systemcalls.h"
 
+#include "foundation/diag.h"
+#include "values/answer.h"
+
 namespace tarn {
 
 CellRef& hostassert(CellRef& out, CellRef application) {

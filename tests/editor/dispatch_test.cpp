@@ -5,7 +5,6 @@
 
 #include <string>
 
-#include "editor/commands.h"
 #include "editor/grid.h"
 #include "editor/paint.h"
 #include "editor/state.h"

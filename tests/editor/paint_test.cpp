@@ -6,10 +6,8 @@
 #include <string>
 
 #include "editor/grid.h"
-#include "editor/history.h"
 #include "editor/kink.h"
 #include "editor/state.h"
-#include "editor/window.h"
 #include "tests/editor/buffer.h"
 #include "tests/support/death.h"
 

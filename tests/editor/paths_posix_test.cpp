@@ -4,6 +4,7 @@
 
 #include <cstdlib>
 
+#include "editor/mainloop.h"
 #include "editor/paths.h"
 
 namespace tarn {
@@ -45,7 +46,7 @@ TEST(PathsPosix, WorkingDirectory) {
   EXPECT_EQ(findcwd(), "/usr/");
 }
 
-TEST(PathsPosix, BailSaysItAndEndsWithStatus1) {
+TEST(Bail, SaysItAndEndsWithStatus1) {
   EXPECT_EXIT(
       {
         dup2(2, 1);

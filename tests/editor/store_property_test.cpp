@@ -6,7 +6,6 @@
 #include <string>
 
 #include "editor/bounds.h"
-#include "editor/reader.h"
 #include "editor/sheet.h"
 #include "tests/editor/buffer.h"
 

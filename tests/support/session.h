@@ -20,7 +20,7 @@ struct Launch {
   std::string directory;          // where it starts; "" for here
   std::string home;               // $HOME; "" for none
   int width = 80, height = 24;
-  bool loose = false;         // the terminal is not its session's: no signals come from it
+  bool loose = false;             // the terminal is not its session's: no signals come from it
   bool oldbackspace = false;      // a terminal whose Backspace sends byte 8 instead of 127
   bool oddmodes = false;          // a terminal left in modes that no shell would leave it in
 };
