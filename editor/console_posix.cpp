@@ -49,8 +49,8 @@ bool changemodes(const termios& modes) {
   return true;
 }
 
-// Whether the terminal takes some last words, given a second. One that stands still, such as that of
-// a connection that is lost, must not keep the process from ending.
+// Whether the terminal takes some last words, given a second. One that stands still, such as that
+// of a connection that is lost, must not keep the process from ending.
 bool takeswords() {
   pollfd output = {1, POLLOUT, 0};
   return poll(&output, 1, 1000) > 0;

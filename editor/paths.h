@@ -27,8 +27,8 @@ Str findhome();
 // The working directory, ending in "/". One that has no absolute path is a program fault.
 Str findcwd();
 
-// A directory's path as Windows tells it, "C:\a\b", as the program has it, "/a/b/". One that does not
-// begin with a drive is a failure.
+// A directory's path as Windows tells it, "C:\a\b", as the program has it, "/a/b/". One that does
+// not begin with a drive is a failure.
 Str drivelesspath(const Str& told);
 
 }  // namespace tarn

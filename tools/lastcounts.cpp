@@ -1,6 +1,6 @@
-// For the coverage build alone: a process that ends itself by a signal writes its counters first, as
-// one that exits does. The editor has no other end, so that without this none of its runs would count.
-// The linker puts these in the place of `raise` and `abort`.
+// For the coverage build alone: a process that ends itself by a signal writes its counters first,
+// as one that exits does. The editor has no other end, so that without this none of its runs would
+// count. The linker puts these in the place of `raise` and `abort`.
 
 extern "C" {
 

@@ -45,8 +45,8 @@ struct Tarneval : testing::Test {
   Outcome run(const std::string& program, const std::string& faults) {
     std::ofstream(path) << program;
     unlink(log.c_str());
-    Outcome done = shell("env LD_PRELOAD=" PRELOAD " TARN_FAULTS='" + faults + "' TARN_FAULTS_LOG=" +
-                     log + " " TARNEVAL " " + path);
+    Outcome done = shell("env LD_PRELOAD=" PRELOAD " TARN_FAULTS='" + faults +
+                         "' TARN_FAULTS_LOG=" + log + " " TARNEVAL " " + path);
     std::stringstream came;
     came << std::ifstream(log).rdbuf();
     std::istringstream rules(faults);

@@ -1,5 +1,5 @@
-// Programs of the language and what they show, from data files. The README beside it has the forms of
-// the files.
+// Programs of the language and what they show, from data files. The README beside it has the forms
+// of the files.
 #pragma once
 
 #include <string>

@@ -1,5 +1,6 @@
-// tarnevalcases COMMAND... -- FILES...: gives the programs of data files to tarneval, a process each,
-// and compares what it prints and its status. The command is tarneval itself, or what starts it.
+// tarnevalcases COMMAND... -- FILES...: gives the programs of data files to tarneval, a process
+// each, and compares what it prints and its status. The command is tarneval itself, or what starts
+// it.
 #include <sys/wait.h>
 #include <unistd.h>
 

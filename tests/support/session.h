@@ -39,8 +39,8 @@ struct Session {
 
   // Types the bytes. They reach the program in one piece up to about 200 of them.
   void keys(const std::string& bytes);
-  // Types any number of bytes, none of which is a signal: what the system still holds of them, where
-  // no one sees it, is waited for as well.
+  // Types any number of bytes, none of which is a signal: what the system still holds of them,
+  // where no one sees it, is waited for as well.
   void paste(const std::string& bytes);
   void resize(int columns, int rows);
   void signal(int number);

@@ -1,7 +1,8 @@
-// Drives a program on a Windows console, for tests on another system. It shares one console with the
-// program and puts exact input records into its queue; the program's descriptor 1 is a pipe, so that
-// the test gets the very bytes that it wrote. Commands come on standard input, one a line, and each
-// is answered by one line on standard output; `sync` and `wait` by the program's bytes behind it.
+// Drives a program on a Windows console, for tests on another system. It shares one console with
+// the program and puts exact input records into its queue; the program's descriptor 1 is a pipe, so
+// that the test gets the very bytes that it wrote. Commands come on standard input, one a line, and
+// each is answered by one line on standard output; `sync` and `wait` by the program's bytes behind
+// it.
 //
 //   size W H           sets the console to W by H, before the start       ok
 //   start COMMAND      starts the program on this console                 ok
@@ -11,7 +12,7 @@
 //   window W H         queues a new size of the window                    ok
 //   modes              tells the console's modes                          modes IN OUT
 //   break              sends the interrupt                                ok
-//   sync MS            waits till all records are handled                 out N | exit N STATUS | late N
+//   sync MS            waits till all records are handled      out N | exit N STATUS | late N
 //   wait MS            waits for the end of the program                   exit N STATUS | late N
 //   quit
 #include <windows.h>
