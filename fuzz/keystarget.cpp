@@ -113,12 +113,10 @@ void resetstate() {
   repaint = paintfile;
   suppressed = painted = showsfault = false;
   killchain = true;
-  statshift = widest = selected = entryshift = origin = 0;
+  statshift = selected = 0;
   mark = -1;
   inkmode = 3;
   kink = defaultkink;
-  entries.clear();
-  chooserdir = "/";
   srand(0);
 }
 
@@ -174,7 +172,10 @@ void checksheets() {
     check(flatten(s).len() == size(s));
     if (isclean(s)) check(flatten(s) == s.saved);
   }
-  check(mark >= -1 && mark <= size(currentsheet()));
+  sheet& s = currentsheet();
+  check(mark >= -1 && mark <= size(s));
+  check(rowstart(s, s.top) == s.top);
+  check(pointshows(s));
 }
 
 void checkscreen() {
