@@ -13,7 +13,7 @@ constexpr int64_t BLOCK = 4096 * RECORD;
 
 static int64_t apart = 0;  // records in use that are blocks of their own
 
-static void* freshapart() {
+[[maybe_unused]] static void* freshapart() {
   apart++;
   if (apart > cellstore.room) cellstore.room = apart;
   return blockmake(RECORD);
