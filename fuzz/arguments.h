@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <ctime>
+#include <string>
 #include <vector>
 
 #include "fuzz/source.h"
@@ -23,6 +24,8 @@ struct Things {
   void* fields;   // the address of a time in fields
   time_t seconds;
   bool compiled;  // definitions were added
+  std::string told;  // the answers, as far as they are the same in every build
+  bool wild;         // what the values are depends on addresses, or on the system
 };
 
 // Once, before the others: takes the standard streams away, since calls read and write them.

@@ -206,7 +206,7 @@ void targetstart() {
   fuzzinstall();
 }
 
-void targetrun(const std::string& input) {
+std::string targetrun(const std::string& input) {
   resetstate();
   if (touched) makefiles();
   reducelimit(reducesteps() + moststeps);
@@ -218,6 +218,7 @@ void targetrun(const std::string& input) {
   checksheets();
   checkscreen();
   checkundo(filepath("file"), text);
+  return {};
 }
 
 // Half of the keys are printable, the rest of all kinds.

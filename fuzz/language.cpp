@@ -94,15 +94,18 @@ bool isprintable(Cell* term) {
   return treesize(term, known) < mostshown;
 }
 
-static void showsmall(Cell* term) {
-  if (isprintable(term)) check(!printcell(term).empty());
+static Str showsmall(Cell* term) {
+  if (!isprintable(term)) return "(large)";
+  Str shown = printcell(term);
+  check(!shown.empty());
+  return shown;
 }
 
-static void run(const Str& text) {
+static Str run(const Str& text) {
   loadprelude();
   Report report = readprogram(text, 0);
   if (report.sound()) runcheck(report);
-  if (report.sound()) showsmall(maindefinition());
+  return report.sound() ? showsmall(maindefinition()) : report.place + " " + report.message;
 }
 
 static void parse(const Str& text) {
@@ -116,14 +119,15 @@ static void parse(const Str& text) {
   for (const Item& item : parseprogram(text).items) showsmall(item.value);
 }
 
-void fuzzprogram(const std::string& text) {
+std::string fuzzprogram(const std::string& text) {
   int64_t before = cellcounts().alive;
   Str program = Str(text.data(), static_cast<int64_t>(text.size()));
   parse(program);
   reducelimit(reducesteps() + moststeps);
-  run(program);
+  Str shown = run(program);
   cleardefs();
   check(cellcounts().alive == before);
+  return {shown.text(), static_cast<size_t>(shown.len())};
 }
 
 // --- Making programs -----------------------------------------------------------------------------

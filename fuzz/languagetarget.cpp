@@ -5,7 +5,7 @@
 namespace tarn {
 
 void targetstart() { fuzzinstall(); }
-void targetrun(const std::string& input) { fuzzprogram(input); }
+std::string targetrun(const std::string& input) { return fuzzprogram(input); }
 std::string targetmade(uint64_t (*next)()) { return fuzztext(next); }
 
 }  // namespace tarn

@@ -5,16 +5,21 @@
 //   NAMEstorm FILE.inputs ...    those kept in the files, one a line, in quotes
 //   NAMEstorm FILE ...           the files, each an input as it is
 //
+// With `--tell FILE` in front of these, each input and what came of it are written to FILE: two
+// builds must tell the same.
+//
 // The input under way is on standard error when the process dies.
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <fstream>
 #include <iterator>
 #include <string>
 #include <vector>
 
 #include "foundation/bigstack.h"
+#include "foundation/checking.h"
 #include "foundation/diag.h"
 #include "foundation/str.h"
 #include "fuzz/target.h"
@@ -41,9 +46,14 @@ std::string current;
 // Past the streams of C, which a target may have taken away.
 void tellcurrent() { errstream << "died of: " << inquotes(current).c_str() << "\n"; }
 
+FILE* told;  // null: nothing is told
+
 void throwone(const std::string& input) {
   current = input;
-  targetrun(input);
+  std::string outcome = targetrun(input);
+  if constexpr (checking) checkdead();
+  if (told == nullptr) return;
+  fprintf(told, "%s\n=> %s\n", inquotes(input).c_str(), inquotes(outcome).c_str());
 }
 
 void throwkept(std::ifstream& file, const std::string& path) {
@@ -73,6 +83,7 @@ void storm(void* argument) {
   targetstart();
   for (const std::string& path : job.files) throwfile(path);
   for (int64_t n = job.made; n-- > 0;) throwone(targetmade(next));
+  if (told != nullptr) check(fclose(told) == 0);
 }
 
 void tellatdeath() {
@@ -88,6 +99,12 @@ void tellatdeath() {
 }  // namespace tarn
 
 int main(int argc, char** argv) {
+  if (argc > 2 && strcmp(argv[1], "--tell") == 0) {
+    tarn::told = fopen(argv[2], "wb");
+    check(tarn::told != nullptr);
+    argv += 2;
+    argc -= 2;
+  }
   tarn::Job job = {INT64_MAX, {}};
   if (argc > 1 && atoll(argv[1]) == 0) {
     job = {0, {argv + 1, argv + argc}};

@@ -12,8 +12,9 @@ namespace tarn {
 void targetstart();
 
 // One input: any bytes at all. What may not happen ends the process, by a check or a sanitizer. The
-// same bytes do the same again.
-void targetrun(const std::string& input);
+// same bytes do the same again. Gives what came of it, as far as that has to be the same in every
+// build.
+std::string targetrun(const std::string& input);
 
 // An input made of the numbers that `next` gives.
 std::string targetmade(uint64_t (*next)());
