@@ -1,10 +1,12 @@
 // The Windows build on a Windows console, under wine: every key as a record in the console's queue,
 // and the editor's screen. TARN_WINDOWS names the folder of the build, WINEPREFIX wine's own.
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <sstream>
 
@@ -44,6 +46,12 @@ struct Folder {
     char name[] = "/tmp/tarnwinXXXXXX";
     path = mkdtemp(name);
   }
+  ~Folder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(path, ignored);
+  }
+  Folder(const Folder&) = delete;
+  Folder& operator=(const Folder&) = delete;
   void write(const std::string& name, const std::string& text) {
     std::ofstream(path + "/" + name, std::ios::binary) << text;
   }
@@ -53,6 +61,13 @@ struct Folder {
     return text.str();
   }
 };
+
+bool screenhas(const ConsoleSession& session, const std::string& text) {
+  for (int row = 1; row < session.terminal.height; row++) {
+    if (session.terminal.row(row).find(text) != std::string::npos) return true;
+  }
+  return false;
+}
 
 // --- Keys ----------------------------------------------------------------------------------------
 
@@ -200,6 +215,31 @@ TEST(Editor, EditsAndSavesAFile) {
   ASSERT_TRUE(session.settle());
   EXPECT_EQ(folder.read("a.txt"), "x!one\ry\n\ntwo\n");
   EXPECT_FALSE(session.ended);
+}
+
+TEST(Editor, OpensFromTheListAndSavesUnderANewName) {
+  Folder folder;
+  folder.write("a.txt", "one\n");
+  folder.write("b.txt", "two\n");
+  mkdir((folder.path + "/inner").c_str(), 0777);
+  ConsoleSession session(driver(), command(editor(), folder.path + "/a.txt"), 40, 8);
+  session.type("\x1b" "o");
+  ASSERT_TRUE(session.settle());
+  EXPECT_EQ(session.terminal.row(0), "Open " + folder.path + "/");
+  for (const char* entry : {"./", "../", "a.txt", "b.txt", "inner/"}) {
+    EXPECT_TRUE(screenhas(session, entry)) << entry;
+  }
+  session.type("inner/\n");  // into a directory
+  ASSERT_TRUE(session.settle());
+  EXPECT_EQ(session.terminal.row(0), "Open " + folder.path + "/inner/");
+  session.type("../b.txt\n");
+  ASSERT_TRUE(session.settle());
+  EXPECT_EQ(session.terminal.row(0), "File " + folder.path + "/b.txt");
+  EXPECT_EQ(session.terminal.row(1), "two,");
+  session.type("\x1b" "wc.txt\n");
+  ASSERT_TRUE(session.settle());
+  EXPECT_EQ(session.terminal.row(0), "File " + folder.path + "/c.txt");
+  EXPECT_EQ(folder.read("c.txt"), "two\n");
 }
 
 TEST(Editor, AKeyHeldDownIsAsManyPresses) {
