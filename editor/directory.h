@@ -1,7 +1,6 @@
-// What the system tells about directories and their entries.
+// The entries of a directory, as the file prompts list them.
 #pragma once
 
-#include <cstdint>
 #include <vector>
 
 #include "foundation/str.h"
@@ -9,7 +8,7 @@
 namespace tarn {
 
 struct DirectoryEntry {
-  Str name;          // without the directory
+  Str name;          // without the directory, and without "/" at its end
   bool isdirectory;  // else a regular file; links count as what they lead to
 };
 
@@ -18,11 +17,5 @@ struct DirectoryEntry {
 // read, at all or to its end; what was found till then is added. A directory that cannot be closed
 // ends the process with status 1, after the word "closedir".
 bool readdirectory(const Str& path, std::vector<DirectoryEntry>& found);
-
-// Whether the path names anything at all, be it a link that leads nowhere.
-bool pathexists(const Str& path);
-
-// The size of a file in bytes; -1 if it cannot be told.
-int64_t filesize(const Str& path);
 
 }  // namespace tarn

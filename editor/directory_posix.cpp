@@ -46,14 +46,4 @@ bool readdirectory(const Str& path, std::vector<DirectoryEntry>& found) {
   return whole;
 }
 
-bool pathexists(const Str& path) {
-  struct stat found;
-  return lstat(path.text(), &found) == 0;
-}
-
-int64_t filesize(const Str& path) {
-  struct stat found;
-  return ::stat(path.text(), &found) == 0 ? found.st_size : -1;
-}
-
 }  // namespace tarn

@@ -10,6 +10,7 @@
 
 namespace tarn {
 
+// What a path names, as the system's `stat` tells it; 0 for nothing.
 static int32_t kindof(const Str& path) {
   struct _stat64 found;
   return _stat64(path.text(), &found) == 0 ? found.st_mode & S_IFMT : 0;
@@ -28,13 +29,6 @@ bool readdirectory(const Str& path, std::vector<DirectoryEntry>& found) {
     exit(1);
   }
   return true;
-}
-
-bool pathexists(const Str& path) { return kindof(path) != 0; }
-
-int64_t filesize(const Str& path) {
-  struct _stat64 found;
-  return _stat64(path.text(), &found) == 0 ? found.st_size : -1;
 }
 
 }  // namespace tarn

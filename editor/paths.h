@@ -1,6 +1,8 @@
-// Names of files. Buffers are named by absolute paths with forward slashes, such as "/a/b.txt", so
-// that a file is open once.
+// Names of files, and what the system says of them. Buffers are named by absolute paths with
+// forward slashes, such as "/a/b.txt", so that a file is open once.
 #pragma once
+
+#include <cstdint>
 
 #include "foundation/str.h"
 
@@ -15,8 +17,11 @@ Str normalise(const Str& text);
 // is "/". Empty only above the root.
 Str normalisedir(const Str& text);
 
-bool isdir(const Str& path);   // an existing directory
-bool isfile(const Str& path);  // an existing regular file
+// What the file system says of a path; links count as what they lead to.
+bool isdir(const Str& path);        // it is an existing directory
+bool isfile(const Str& path);       // it is an existing regular file
+bool pathexists(const Str& path);   // it names anything at all, be it a link that leads nowhere
+int64_t filesize(const Str& path);  // in bytes; -1 if it cannot be told
 
 // The directory of a file: the path up to and with its last "/".
 Str parentdir(const Str& path);

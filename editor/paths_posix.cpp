@@ -17,6 +17,16 @@ static bool hasmode(const Str& path, mode_t kind) {
 bool isdir(const Str& path) { return hasmode(path, S_IFDIR); }
 bool isfile(const Str& path) { return hasmode(path, S_IFREG); }
 
+bool pathexists(const Str& path) {
+  struct stat found;
+  return lstat(path.text(), &found) == 0;
+}
+
+int64_t filesize(const Str& path) {
+  struct stat found;
+  return ::stat(path.text(), &found) == 0 ? found.st_size : -1;
+}
+
 Str findhome() {
   const char* told = getenv("HOME");
   if (told == nullptr || told[0] != '/' || !isdir(told)) return "/";

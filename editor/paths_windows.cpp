@@ -23,6 +23,16 @@ static bool hasmode(const Str& path, unsigned short kind) {
 bool isdir(const Str& path) { return hasmode(path, _S_IFDIR); }
 bool isfile(const Str& path) { return hasmode(path, _S_IFREG); }
 
+bool pathexists(const Str& path) {
+  struct _stat64 found;
+  return _stat64(path.text(), &found) == 0;
+}
+
+int64_t filesize(const Str& path) {
+  struct _stat64 found;
+  return _stat64(path.text(), &found) == 0 ? found.st_size : -1;
+}
+
 Str findhome() { return isdir("/Users/Admin/") ? "/Users/Admin/" : "/"; }
 
 Str findcwd() {

@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "editor/directory.h"
+#include "editor/paths.h"
 #include "editor/sheet.h"
 #include "editor/state.h"
 #include "foundation/system.h"

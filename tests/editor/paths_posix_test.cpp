@@ -3,6 +3,9 @@
 #include <unistd.h>
 
 #include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <string>
 
 #include "editor/mainloop.h"
 #include "editor/paths.h"
@@ -19,6 +22,22 @@ TEST(PathsPosix, KindsOfFiles) {
   EXPECT_FALSE(isfile("/dev/null"));
   EXPECT_FALSE(isdir("/no/such/place"));
   EXPECT_FALSE(isfile("/no/such/place"));
+}
+
+TEST(PathsPosix, ExistenceAndSize) {
+  char made[] = "/tmp/tarnpathsXXXXXX";
+  const std::string directory = mkdtemp(made);
+  const std::string file = directory + "/file", link = directory + "/link";
+  std::ofstream(file) << "12345";
+  EXPECT_EQ(symlink("gone", link.c_str()), 0);
+  EXPECT_TRUE(pathexists(file.c_str()));
+  EXPECT_EQ(filesize(file.c_str()), 5);
+  EXPECT_TRUE(pathexists(link.c_str()));  // though it leads nowhere
+  EXPECT_EQ(filesize(link.c_str()), -1);
+  EXPECT_TRUE(pathexists(directory.c_str()));
+  EXPECT_FALSE(pathexists((directory + "/gone").c_str()));
+  EXPECT_EQ(filesize((directory + "/gone").c_str()), -1);
+  std::filesystem::remove_all(directory);
 }
 
 TEST(PathsPosix, HomeIsADirectoryFromTheRoot) {
