@@ -24,7 +24,7 @@ uint8_t* dropped(size_t n) {
 }
 
 TEST(Graveyard, TellsAnyByteOfADeadBlockThatIsWritten) {
-  for (size_t n : {size_t{1}, size_t{7}, size_t{8}, size_t{24}, size_t{29}}) {
+  for (size_t n : {size_t{1}, size_t{8}, size_t{29}}) {
     uint8_t* block = dropped(n);
     checkdead();
     EXPECT_FOUND((block[0]++, checkdead())) << n;
