@@ -48,8 +48,8 @@ static constexpr std::string_view highorder =
     "_abcdefghijklmnopqrustvwzxy0123456789ABCDEFGHIJKLMNOPQRUSTVWZXY~!@#$%^&*<>-|+/=\\.`'\":;?"
     "(){},[]";
 
-// The weights of "a" to "z": the inverse of the language's alphabet, so that "rust" and "vwzxy"
-// come out ascending.
+// The weights of "a" to "z" in plain order. They are the inverse of the language's alphabet, so
+// that the letters of "rust" and "vwzxy" come out ascending.
 static constexpr std::string_view letterweights = "abcdefghijklmnopqrtusvwyzx";
 static_assert(letterweights.size() == 26);
 
@@ -71,10 +71,11 @@ static bool placebefore(std::string_view order, uint8_t x, uint8_t y) {
 static bool iscapital(uint8_t c) { return c >= 'A' && c <= 'Z'; }
 static bool isprintable(uint8_t c) { return c >= 32 && c <= 126; }
 
-// Of the control and high bytes: those named by lownames and highnames, less 160.
-static bool isnamedlow(uint8_t c) { return (c + 1) % 128 < 33; }
+// Of the bytes that do not print these come first: 1 to 31, 127 to 159 and 255.
+static bool iscontrol(uint8_t c) { return (c + 1) % 128 < 33; }
 
-// On purpose: 160 has no character of its own, as "9" is never reached; here it ranks by that "9".
+// On purpose: byte 160 has no name, though highnames ends with a "9" for it. Two names can still be
+// compared if one of them is that byte: it ranks by the "9".
 static uint8_t rankchar(uint8_t b) { return b == 160 ? '9' : charnopq(b); }
 
 bool namebefore(const Str& a, const Str& b) {
@@ -88,8 +89,8 @@ bool namebefore(const Str& a, const Str& b) {
   if (iscapital(x) || iscapital(y)) return iscapital(x);
   if (isprintable(x) && isprintable(y)) return placebefore(symbolorder, x, y);
   if (isprintable(x) || isprintable(y)) return isprintable(y);
-  if (isnamedlow(x) != isnamedlow(y)) return isnamedlow(x);
-  return placebefore(isnamedlow(x) ? loworder : highorder, rankchar(x), rankchar(y));
+  if (iscontrol(x) != iscontrol(y)) return iscontrol(x);
+  return placebefore(iscontrol(x) ? loworder : highorder, rankchar(x), rankchar(y));
 }
 
 }  // namespace tarn

@@ -22,8 +22,8 @@ static_assert(digitalphabet.size() == 64);
 int32_t digitvalue(uint8_t c);
 bool isdigitvalue(uint8_t c);  // c is one of the 64 digits
 
-// The names of the bytes that do not print, from two runs of bytes. "J" is the name of 0 and not of
-// 10, because 10 is the newline, whose name is ",".
+// The names of the bytes that do not print, of two runs of bytes. "J" is the name of 0, where the
+// row of letters passes 10: that is the newline, whose name is ",".
 inline constexpr std::string_view lownames = "]JABCDEFGHI,KLMNOPQRSTUVWXYZ(){}[_";     // 255, 0..32
 inline constexpr std::string_view highnames = "~!@#$%^&*<>-|+/=\\.`'\":;?0123456789";  // 127..160
 static_assert(lownames.size() == 34 && highnames.size() == 34);

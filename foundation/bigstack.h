@@ -4,9 +4,10 @@
 
 namespace tarn {
 
-// Calls work(argument) on a stack of 16 GiB, reserved and not committed, or the largest half, quarter
-// ... of that the system grants; returns when work does. Signals reach the thread that works, and
-// `exit` called there ends the process as usual. Call it once, before anything else.
+// Calls work(argument) on a stack of 16 GiB, reserved and not committed, and returns when work
+// does. Where the system does not grant so much, it is half of that, or a quarter, and so on; the
+// stack there is if even 8 MiB are refused. Signals reach the thread that works, and `exit` called
+// there ends the process as usual. Call it once, before anything else. The argument is lent.
 void runonbigstack(void (*work)(void*), void* argument);
 
 }  // namespace tarn

@@ -1,14 +1,9 @@
 // The tests on names.
 #include "foundation/chars.h"
 
-namespace tarn {
+#include "foundation/text.h"
 
-static bool isword(const Str& text) {
-  for (uint8_t c : text) {
-    if (!isnamebyte(c)) return false;
-  }
-  return !text.empty();
-}
+namespace tarn {
 
 static bool isoneof(const Str& text, uint8_t classes) {
   return text.len() == 1 && (byteclasses[text.bytes()[0]] & classes) != 0;
@@ -20,7 +15,7 @@ static bool isbracketed(const Str& text) {
 }
 
 bool isdefinable(const Str& text) {
-  return isword(text) || isoneof(text, solebyte) || isbracketed(text);
+  return isloweridentifier(text) || isoneof(text, solebyte) || isbracketed(text);
 }
 
 Str defname(const Str& text) {
@@ -28,7 +23,9 @@ Str defname(const Str& text) {
   return text.bytes()[0] == '[' ? text.substr(1, 1) : text;
 }
 
-bool isname(const Str& text) { return isword(text) || isoneof(text, solebyte | symbolbyte); }
+bool isname(const Str& text) {
+  return isloweridentifier(text) || isoneof(text, solebyte | symbolbyte);
+}
 
 bool isvariable(const Str& text) {
   return text.len() == 1 && text.bytes()[0] >= 'a' && text.bytes()[0] <= 'z';

@@ -7,8 +7,8 @@
 
 namespace tarn {
 
-static constexpr int32_t words = 677;  // 1 + 26 * 26
-static constexpr int32_t firstbyte = 145;
+static constexpr int32_t wordcount = 677;  // 1 + 26 * 26: the tree of 0, and all pairs below 26
+static constexpr int32_t firstbyte = 145;  // the word of the byte at place 0
 
 static int32_t squareroot(int32_t n) {
   int32_t s = 0;
@@ -17,7 +17,7 @@ static int32_t squareroot(int32_t n) {
 }
 
 Str bracketcode(int32_t n) {
-  check(n >= 0 && n < words);
+  check(n >= 0 && n < wordcount);
   if (n == 0) return "[]";
   int32_t s = squareroot(n - 1);
   int32_t r = n - 1 - s * s;

@@ -22,8 +22,8 @@ Str bracketcode(int32_t n);
 // the word of p + 145. Built on first use, never freed.
 const std::map<Str, Str>& codemap();
 
-// The same map, quickly. The word of a byte, empty for "[" and "]"; and the byte of a word, -1 for
-// a text that is no byte's word.
+// The same map, without a text to be made for the byte: the word of a byte, empty for "[" and "]";
+// and the byte of a word, -1 for a text that is no byte's word.
 const Str& codeofbyte(uint8_t c);
 int32_t byteofcode(const Str& word);
 

@@ -1,4 +1,4 @@
-// The fatal paths. Nothing here allocates before the words are out.
+// The fatal paths. None of them allocates before its words are out.
 #include "foundation/diag.h"
 
 #include <cerrno>
@@ -25,8 +25,7 @@ void fail(const char* file, int32_t line) {
 
 void die(const Str& reason) {
   outstream << "TARNFAIL: " << reason << "\n";
-  check(false);
-  abort();
+  fail(__FILE__, __LINE__);
 }
 
 static void writechunks(int fd, const char* bytes, int64_t n) {

@@ -16,10 +16,12 @@ namespace tarn {
 
 struct Str;
 
-// Goes straight to abort when it is entered again, as when descriptor 2 is closed.
+// Prints the place and aborts. Entered a second time, as when descriptor 2 is closed, it aborts at
+// once.
 [[noreturn]] void fail(const char* file, int32_t line);
 
-// The short name of the spot, or a sentence, for what was deemed impossible.
+// For what was deemed impossible and is still worth a word: the reason is the short name of the
+// spot, or a sentence.
 [[noreturn]] void die(const Str& reason);
 
 #define check(condition) \
@@ -30,7 +32,7 @@ struct Str;
 // A write-only stream over a descriptor. Texts go out in chunks of 4096 bytes; a chunk that cannot
 // be written is a failure. A text of length 0 writes nothing.
 struct DiagStream {
-  int fd;
+  int fd;  // open for writing; not owned
 };
 
 const DiagStream& operator<<(const DiagStream& stream, const char* text);

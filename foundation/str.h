@@ -1,13 +1,13 @@
-// The byte string of the whole system: reference counted, copied on write, its length stored, and
-// always followed by a NUL, so that its bytes can go to a C library call as they are and may also
-// hold NULs inside. Only str.cpp knows how a record is allocated.
+// The byte string of the whole system. It is reference counted and copied on write; its length is
+// stored, so that it may hold NULs, and a NUL follows its bytes, so that they can go to a C library
+// call as they are. Only str.cpp knows how a record is allocated.
 //
 //   Str ──► StrRecord { len, bytes, refs } ──► 'T' 'a' 'r' 'n' 0     len 4
 //           └──────── one malloc block ───────────────────────┘
 //
-// All empty texts share one constant record, so that making one costs no allocation. Positions and
-// lengths are signed 64-bit; a position out of range is a program fault (see diag.h). A Str
-// argument is taken by value: the callee owns a reference of its own.
+// All empty texts share one record that is never freed, so that making one costs no allocation.
+// Positions and lengths are signed 64-bit; a position out of range is a program fault (see diag.h).
+// A function that has a Str parameter takes it, one that has a const Str& lends it.
 #pragma once
 
 #include <cstddef>
@@ -27,8 +27,8 @@ struct StrRecord {
 
 struct Str {
   Str() noexcept : record(&emptyrecord) { record->refs++; }
-  Str(const char* text);               // up to the NUL
-  Str(const void* bytes, int64_t n);   // n bytes, copied
+  Str(const char* text);              // up to the NUL
+  Str(const void* bytes, int64_t n);  // n bytes, copied
   Str(const Str& other) noexcept : record(other.record) {
     checkalive(record);
     record->refs++;
@@ -67,7 +67,8 @@ struct Str {
     check(i <= record->len);
     return own()[i];
   }
-  // All bytes to write to, unshared as for ref; valid until this Str is copied or assigned.
+  // All bytes to write to, unshared as for ref. The pointer is good until this Str is copied or
+  // assigned.
   uint8_t* own() {
     if (!alone(record->refs)) unshare();
     return record->bytes;
@@ -89,7 +90,7 @@ struct Str {
 
   StrRecord* record;  // never null
 
-  static StrRecord emptyrecord;  // its own reference keeps it alive for ever
+  static StrRecord emptyrecord;  // holds a reference to itself, so that its count never gets to 0
 
   explicit Str(StrRecord* made) noexcept : record(made) {}
   static void checkalive(const StrRecord* r) {
@@ -103,7 +104,9 @@ struct Str {
   void unshare();
 };
 
-Str strsized(int64_t n);   // n bytes, not set but for the final NUL; own() writes them
+// n bytes, to be written through own(); only the final NUL is set. A negative n, or one that no
+// memory can hold, makes malloc fail, and the process dies of the null pointer.
+Str strsized(int64_t n);
 Str strbyte(uint8_t c);    // the text of that one byte
 Str strnumber(int64_t n);  // decimal, "-" in front of a negative one
 

@@ -2,6 +2,7 @@
 #include "foundation/strbuilder.h"
 
 #include <cstring>
+#include <utility>
 
 namespace tarn {
 

@@ -6,8 +6,8 @@
 
 namespace tarn {
 
-// Makes bytes in files and streams stay as they are, and a wrong argument to the C library an error
-// result. Once, before the first file is opened.
+// From here on files and streams give and keep bytes as they are, and a wrong argument to the C
+// library is an error result. Call it once, before the first file is opened.
 void systemstart();
 
 // Writes all n bytes to the descriptor, past all buffering. A short write, an interruption or a
@@ -18,6 +18,6 @@ bool systemwrite(int fd, const void* bytes, int64_t n);
 // Makes a directory; false if that fails, as it does when it exists.
 bool systemmakedir(const char* path);
 
-int systemdescriptor(FILE* file);
+int systemdescriptor(FILE* file);  // of an open file
 
 }  // namespace tarn

@@ -4,12 +4,13 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdio>
 
 #include "foundation/system.h"
 
 namespace tarn {
 
-void systemstart() {}  // both are so
+void systemstart() {}  // it is so from the start
 
 bool systemwrite(int fd, const void* bytes, int64_t n) {
   const char* at = static_cast<const char*>(bytes);

@@ -1,4 +1,4 @@
-// Small helpers on texts.
+// The test walks from the last byte to the first.
 #include "foundation/text.h"
 
 #include <cstring>

@@ -11,7 +11,7 @@ namespace {
 struct Pairing {
   uint8_t open;
   uint8_t close;
-  const char* name;
+  const char* name;  // in messages
 };
 
 constexpr Pairing pairings[] = {
@@ -27,6 +27,7 @@ const Pairing* pairingof(uint8_t c) {
   return nullptr;
 }
 
+// One call of bracketcheck: its arguments, and what is open at the place that it has come to.
 struct Checker {
   const Str& text;
   int64_t base;

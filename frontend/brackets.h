@@ -17,24 +17,24 @@
 namespace tarn {
 
 // Whether all brackets of a raw program text match and all commas in parentheses separate
-// arguments. If not, the report tells of the first fault, its place counted from `base`, and place
-// is that number; all nesting faults come before any comma fault.
+// arguments. If not, the report tells the first fault, and place becomes its place, counted from
+// `base`; a fault of nesting, wherever it stands, comes before one of commas.
 bool bracketcheck(const Str& text, int64_t base, Report& report, int64_t& place);
 
-// The place of the partner of the bracket at p, p itself for any other byte. p must lie in the
-// text, and its group in it too.
+// The place of the partner of the bracket at p; p itself for any other byte. A p outside the text,
+// or a bracket without a partner, is a program fault.
 int64_t skipgroup(const Str& text, int64_t p);
 
-// The places of the bytes of `set` at the top level, rising. An opening bracket can be in the set:
-// it is found, and its group passed over.
+// The places of the bytes of `set` at the top level, rising. An opening bracket may be in the set:
+// it is found, and its group is passed over.
 std::vector<int64_t> scantop(const Str& text, std::string_view set);
 
-// The first place at or after `from`, itself at the top level, of a byte of `set` at the top level;
-// -1 if there is none.
+// The first of these places at or after `from`, which must lie at the top level; -1 if there is
+// none.
 int64_t scanprefix(const Str& text, int64_t from, std::string_view set);
 
-// The partners of all brackets outside strings, and of those around strings, at once; -1 for other
-// bytes. The text must be balanced.
+// For each byte of the text: the place of its partner if it is a bracket outside of all strings, or
+// the bracket at either end of one; -1 for any other byte. The text must be balanced.
 std::vector<int64_t> pairbrackets(const Str& text);
 
 }  // namespace tarn

@@ -1,19 +1,20 @@
-// The eleven steps from parsed definitions to runnable ones, a function each.
+// The ten steps from parsed definitions to runnable ones, a function each.
 #include "frontend/checks.h"
 
+#include <utility>
 #include <vector>
 
-#include "foundation/chars.h"
 #include "frontend/namelist.h"
 #include "frontend/passes.h"
 #include "frontend/printer.h"
 #include "frontend/share.h"
 #include "frontend/typetable.h"
+#include "graph/builtins.h"
 #include "graph/definitions.h"
 
 namespace tarn {
 
-// How messages call a definition.
+// What messages call a definition.
 static Str displayname(const Str& key) { return key.empty() ? Str("TOP") : key; }
 
 // The tail of a message about a definition.
@@ -42,7 +43,7 @@ static std::set<uint8_t> letters(Cell* list) {
 }
 
 Report namelocals(const Str& key, CellRef& term) {
-  constexpr int64_t most = 26;
+  constexpr int64_t most = 26;  // letters
   CellRef longnames = binders(term, false);
   CellRef shortnames = binders(term, true);
   if (listsize(longnames) + listsize(shortnames) > most) {
@@ -64,9 +65,8 @@ static int64_t abstractions(Cell* term) {
 }
 
 Report checkarity(const Str& key, Cell* term) {
-  constexpr int64_t most = 10;
-  if (abstractions(term) <= most) return {};
-  // The main expression goes by its empty name here, so that two blanks stand in the message.
+  if (abstractions(term) <= definitionparams) return {};
+  // On purpose: the main expression goes by its empty name here, and the message has two blanks.
   return fault("arity", "Arity of function " + key + " may not exceed ten.", shortname(key), "");
 }
 
@@ -88,10 +88,10 @@ static References references() {
   return found;
 }
 
-// Walks from the main expression, always on to the smallest name waiting. Of several definitions
-// that refer to a name the latest is told.
+// Walks from the main expression, always on to the smallest of the names that wait. Where several
+// definitions refer to a name, the message tells the one that the walk came to last.
 Report checkreferences(const References& uses, const char* what) {
-  std::map<Str, Str> waiting = {{"", "nowhere"}};  // to the name that referred
+  std::map<Str, Str> waiting = {{"", "nowhere"}};  // each with the name that refers to it
   std::set<Str> done;
   while (!waiting.empty()) {
     auto [name, referrer] = *waiting.begin();
@@ -112,7 +112,7 @@ Report checkreferences(const References& uses, const char* what) {
   return {};
 }
 
-// The entry of a builtin runs always, since its body is never entered.
+// A builtin is never dead, whatever its entry refers to: the body of that is never entered.
 std::set<Str> deaddefinitions(const References& uses) {
   std::multimap<Str, Str> users;
   std::vector<Str> found;

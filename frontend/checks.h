@@ -6,6 +6,7 @@
 #include <map>
 #include <set>
 
+#include "foundation/str.h"
 #include "frontend/report.h"
 #include "graph/cell.h"
 
@@ -22,11 +23,12 @@ Report checkfunky(const Str& key, Cell* term);
 Report checkarity(const Str& key, Cell* term);
 Report checkunbound(const Str& key, Cell* term);  // annotates
 
-// Gives all long local names of a definition a letter, if there are letters enough.
+// Gives each long local name of a definition a letter; the report tells if there are not letters
+// enough. The term is replaced.
 Report namelocals(const Str& key, CellRef& term);
 
-// The names that each definition of a program refers to, as name lists; what it does not hold may
-// be among the global definitions.
+// The names that each definition of a program refers to, as name lists (namelist.h). A name that is
+// no key here may still be a global definition.
 using References = std::map<Str, CellRef>;
 
 // Whether all names that can be reached from the main expression are defined. `what` stands before

@@ -1,6 +1,8 @@
 // The order of one evaluation, and what becomes of failures.
 #include "frontend/driver.h"
 
+#include <utility>
+
 #include "frontend/checks.h"
 #include "frontend/printer.h"
 #include "frontend/program.h"

@@ -30,8 +30,8 @@ CellRef reportvalue(const Report& report);
 // What Escape-e shows.
 struct Evaluation {
   bool ok;    // the program ran to its end
-  Str shown;  // the value, or the message of the report
-  Str place;  // the place field of the report
+  Str shown;  // the printed value; if not ok, the message of the report
+  Str place;  // if not ok, the place field of the report; else empty
 };
 
 // Runs a program: all of the above in order. Places in messages count from `base`.

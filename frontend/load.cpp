@@ -3,6 +3,7 @@
 
 #include <map>
 #include <set>
+#include <utility>
 
 #include "foundation/place.h"
 #include "frontend/brackets.h"
@@ -10,6 +11,7 @@
 #include "frontend/driver.h"
 #include "frontend/passes.h"
 #include "frontend/program.h"
+#include "frontend/report.h"
 #include "frontend/share.h"
 #include "frontend/tidy.h"
 #include "graph/definitions.h"
@@ -108,7 +110,8 @@ void mergelive(const Loading& loading) {
   }
 }
 
-// On purpose: the names are in by now and stay. The values that cannot run fail when they are used.
+// On purpose: the names are among the definitions of the run by now, and stay there. Those whose
+// terms cannot run become Z, and fail when they are used.
 Report checkletters(Loading& loading) {
   Report first;
   for (auto& [key, term] : loading.terms) {
@@ -171,7 +174,7 @@ CellRef loadtext(const Str& text) {
   return compileonly(text, main).sound() ? valueof(std::move(main)) : leafbyte('Z');
 }
 
-// A text with unmatched brackets cannot be tidied, and is not shown.
+// A text with unmatched brackets cannot be tidied, so it is not shown.
 CellRef roadtext(const Str& text) {
   CellRef main;
   Report report = compileonly(text, main);

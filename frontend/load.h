@@ -8,10 +8,10 @@
 
 namespace tarn {
 
-// The value of the text's main expression. A fault of the text is the leaf Z for load, a value that
-// raises the report for road. Both reduce, and may be called while a reduction goes on. Once the
-// definitions are in, they stay until the run ends: what then turns out to have an unbound letter
-// is the leaf Z under its name.
+// Give the value of the text's main expression; the text is lent. If the text has a fault, loadtext
+// gives the leaf Z, and roadtext a value that raises the report. Both reduce, and may be called
+// while a reduction goes on. Definitions that have been added stay until the run ends, even if the
+// last check then finds an unbound letter in one: that one is the leaf Z.
 CellRef loadtext(const Str& text);
 CellRef roadtext(const Str& text);
 

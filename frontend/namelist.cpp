@@ -1,5 +1,7 @@
-// The sets, by walks along the chain.
+// Walks along the chain.
 #include "frontend/namelist.h"
+
+#include <cstring>
 
 namespace tarn {
 

@@ -4,7 +4,9 @@
 #include "frontend/parser.h"
 
 #include <array>
+#include <iterator>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "foundation/chars.h"
@@ -14,12 +16,13 @@ namespace tarn {
 
 namespace {
 
+// The whole text, lent.
 struct Source {
   const uint8_t* bytes;
-  const int64_t* partners;  // of brackets; -1 for other bytes
+  const int64_t* partners;  // for each byte: the place of a bracket's partner, -1 for other bytes
 };
 
-// The bytes from `from` to just before `to`.
+// The bytes of a source from `from` up to but not including `to`.
 struct Piece {
   int64_t from;
   int64_t to;
@@ -30,20 +33,20 @@ struct Piece {
 // --- Tiers of operators between two operands, loosest first --------------------------------------
 
 struct Tier {
-  std::string_view operators;
-  bool fromright;  // a;b;c is ; a (; b c), while a+b+c is + (+ a b) c
+  std::string_view operators;  // a byte each
+  bool fromright;              // a;b;c is ; a (; b c), while a+b+c is + (+ a b) c
 };
 
 constexpr Tier tiers[] = {
     {",", true},      // in wings only: {a,b}
     {";\\{", true},   // "{" stands for a whole wing: a{defs}b
     {"?\n", false},   // newline is T; tidied text has none
-    {"&|", true},     //
-    {"=<>#", true},   //
+    {"&|", true},     // and, or
+    {"=<>#", true},   // comparisons
     {"@ ", false},    // space is plain application
-    {"+-:.", false},  //
-    {"*/%'", false},  //
-    {"^", true},      //
+    {"+-:.", false},  // sums
+    {"*/%'", false},  // products
+    {"^", true},      // powers
 };
 constexpr uint8_t commatier = 0;
 constexpr uint8_t expressiontier = 1;
@@ -60,8 +63,8 @@ constexpr std::array<uint8_t, 256> tierofbyte = [] {
 }();
 
 struct Operators {
-  uint8_t tier;
-  std::vector<int64_t> places;  // rising
+  uint8_t tier;                 // notier if none was found
+  std::vector<int64_t> places;  // of the operators of that tier, rising
 };
 
 CellRef parsetiers(const Source& s, Piece p, uint8_t tier);
@@ -176,8 +179,8 @@ CellRef parseinner(const Source& s, Piece p) {
 
 // --- Atoms ---------------------------------------------------------------------------------------
 
-// Whether an atom begins at a byte with another before it. Operators begin none: a comma that got
-// here sticks to what stands before it.
+// Whether an atom begins at the byte c, which stands behind another. Operators begin none: a comma
+// that got here sticks to what stands before it.
 bool startsatom(uint8_t before, uint8_t c) {
   if (before == ']' || before == ')' || c == '[' || c == '(') return true;
   if (isnamebyte(c)) return !isnamebyte(before);

@@ -1,6 +1,9 @@
 // The passes. All recurse along the term.
 #include "frontend/passes.h"
 
+#include <cstring>
+#include <utility>
+
 #include "foundation/chars.h"
 #include "frontend/namelist.h"
 #include "frontend/printer.h"
@@ -13,12 +16,12 @@ static CellRef rebuilt(Cell* pair, CellRef left, CellRef right) {
   return cellpairtake(std::move(left), std::move(right));
 }
 
-// The parts of `\ key body` and of `{ key value body`. For any other term form is 'o'.
+// The parts of `\ key body` or `{ key value body`, lent.
 struct Binder {
-  char form;
-  Cell* key;
-  Cell* value;  // null in an abstraction
-  Cell* body;
+  char form;    // that of cellform: 'u', 'i', or 'o' for a term that is neither
+  Cell* key;    // null for 'o'
+  Cell* value;  // null for 'o' and in an abstraction
+  Cell* body;   // null for 'o'
 };
 
 static Binder binderof(Cell* term) {
@@ -36,7 +39,7 @@ static CellRef boundname(Cell* key) {
   return cellbyte(key) == '[' ? leafstr(defname(celltext(key))) : cellcopy(key);
 }
 
-// --- Patterns -----------------------------------------------------------------------------------
+// --- Patterns ------------------------------------------------------------------------------------
 
 static CellRef local(Cell* key, Cell* value, Cell* body) {
   return cellapply3(leafbyte('{'), key, value, body);
@@ -94,8 +97,8 @@ CellRef binders(Cell* term, bool single) {
   return found;
 }
 
-// Whether a leaf stands for something defined elsewhere. A digit leaf or a symbol with a stray
-// comma in it does so too, since nothing can define it.
+// Whether a leaf stands for something defined elsewhere. So does a digit leaf or a symbol with a
+// stray comma in it: as nothing can define it, it is found undefined.
 static bool refers(Cell* leaf) {
   if (isbinderhead(leaf)) return false;
   Str text = celltext(leaf);

@@ -2,9 +2,9 @@
 // `\ key body` and `{ key value body`; the passes only bring a term into the form that the machine
 // takes: no pair patterns, one letter for each local name, marks turned into records.
 //
-// All lend their term and give a new one, sharing with it what they did not change: a term that is
-// fine as it is comes back as the same cell. None but markpass annotates. Keys of binders are names
-// as in definitions: [+] binds "+".
+// All lend their term. Those that rewrite it give a new one, which shares with the old what did not
+// change: a term that is fine as it is comes back as the same cell. None but markpass annotates.
+// Keys of binders are names as in definitions: [+] binds "+".
 #pragma once
 
 #include "foundation/str.h"

@@ -4,10 +4,13 @@
 #include "frontend/printer.h"
 
 #include <cstdio>
+#include <cstring>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "foundation/chars.h"
+#include "foundation/escapes.h"
 
 namespace tarn {
 
@@ -23,27 +26,23 @@ void printreal(std::string& out, Cell* leaf) {
   out.append("real[").append(digits).append("]");
 }
 
-// The bytes that cannot stand in a string go by their names.
+// The bytes that cannot stand in a string go by their letters.
 void printpost(std::string& out, Cell* leaf) {
   int64_t size = 0;
   const uint8_t* payload = leafbytes(leaf) + postpayload(leaf, size);
   out += "cape[";
   for (int64_t i = 0; i < size; i++) {
-    uint8_t c = payload[i];
-    if (c == '\n') {
-      out += "[p]";
-    } else if (c == '[') {
-      out += "[q]";
-    } else if (c == ']') {
-      out += "[r]";
+    char letter = static_cast<char>(escapeletter(payload[i]));
+    if (letter == 0) {
+      out += static_cast<char>(payload[i]);
     } else {
-      out += static_cast<char>(c);
+      out.append({'[', letter, ']'});
     }
   }
   out += ']';
 }
 
-// As it is built, a slot at a time: (/ (/ cray 1) 2). An empty slot reads as Z.
+// As a program would build it, a slot at a time: (/ (/ cray 1) 2). An empty slot reads as Z.
 void printcray(std::string& out, Cell* leaf) {
   int64_t slots = crayslots(leaf);
   for (int64_t i = 0; i < slots; i++) out += "(/ ";
@@ -110,11 +109,11 @@ bool attaches(char last, std::string_view text) {
   return c == other ? text.size() == 1 : classof(last) != c;
 }
 
-// The printing of one application: its head has been printed from `start` on.
+// An application that is being printed; its head has been already.
 struct Application {
   std::string& out;
-  size_t start;
-  bool open;  // a parenthesis was opened, and is to be closed
+  size_t start;  // where the head begins in out
+  bool open;     // a parenthesis was opened, and is to be closed
 
   // From here on arguments stand behind a space.
   void enclose() {

@@ -1,6 +1,8 @@
 // Items and what they define, line marks, the prelude and the builtins' entries.
 #include "frontend/program.h"
 
+#include <utility>
+
 #include "foundation/chars.h"
 #include "foundation/place.h"
 #include "frontend/brackets.h"
@@ -25,13 +27,14 @@ static std::vector<uint64_t> marklines(const Str& text) {
   return lines;
 }
 
+// Gives the marks of a term their lines, from `next` on; the first line not used yet is the answer.
 static const uint64_t* handoutlines(Cell* term, const uint64_t* next) {
   for (; cellispair(term); term = rightlink(term)) next = handoutlines(leftlink(term), next);
   if (cellbyte(term) == '`') setfield(term, *next++);
   return next;
 }
 
-// `\ key value` has these two; both null for any other term.
+// The two halves of `\ key value`, lent; both null for any other term.
 struct Halves {
   Cell* key;
   Cell* value;
@@ -107,7 +110,7 @@ void loadprelude() {
 // Each builtin is defined as so many abstractions over Z, which give the name its arity. The body
 // is never entered.
 static void definebuiltins() {
-  constexpr uint32_t most = 7;
+  constexpr uint32_t most = 7;  // arguments of a builtin
   CellRef stubs[most + 1] = {leafbyte('Z')};
   for (uint32_t n = 1; n <= most; n++) {
     stubs[n] = leafbyte('Z');

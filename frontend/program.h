@@ -30,8 +30,8 @@ struct Program {
 };
 
 // Parses a raw text that has passed bracketcheck. The leaf of each "`" outside strings gets the
-// number of a line with one, from 1: the smallest for the first in the order of the trees, left
-// before right, the main expression first.
+// number of a line with one, from 1. On purpose: they are handed out in the order of the trees,
+// left before right, the main expression first, and not in that of the text.
 Program parseprogram(const Str& text);
 
 // The name that the term of one item defines, a symbol without brackets; empty if it is no

@@ -41,7 +41,7 @@ static Report rawreport(const Str& text) {
   return report;
 }
 
-// From the end backwards: what is left before the last four groups is the message, whatever
+// Works from the end backwards: what is left before the last four groups is the message, whatever
 // brackets it holds.
 Report reportparse(const Str& text) {
   Report report;
@@ -57,21 +57,23 @@ Report reportparse(const Str& text) {
   return report;
 }
 
-static constexpr int64_t shortest = 72;
+static constexpr int64_t longest = 72;  // bytes of a shortened field
 
 Str shortname(const Str& s) {
   if (s.len() == 5) return s + " \"";
-  if (s.len() <= shortest) return s;
-  return s.substr(0, shortest - 3) + "...";
+  if (s.len() <= longest) return s;
+  return s.substr(0, longest - 3) + "...";
 }
 
+// What closes an opening bracket; 0 for any other byte.
 static uint8_t closerof(uint8_t c, bool wings) {
   if (c == '(') return ')';
   if (c == '[') return ']';
   return c == '{' && wings ? '}' : 0;
 }
 
-// Copies while what is out and what is still to be closed fit. `open` holds the closers due.
+// Copies bytes as long as they and the closers that are still due fit. `open` holds those closers,
+// the next one last.
 static Str shorten(const Str& s, bool wings) {
   std::string out;
   std::vector<char> open;
@@ -79,7 +81,7 @@ static Str shorten(const Str& s, bool wings) {
     size_t used = out.size() + open.size();
     bool instring = !open.empty() && open.back() == ']';
     uint8_t closer = instring && c != '[' ? 0 : closerof(c, wings);
-    if (used + (closer != 0 ? 2 : 1) > shortest) break;
+    if (used + (closer != 0 ? 2 : 1) > longest) break;
     if (closer != 0) {
       open.push_back(static_cast<char>(closer));
     } else if (!open.empty() && open.back() == static_cast<char>(c)) {

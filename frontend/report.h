@@ -8,7 +8,7 @@ namespace tarn {
 
 struct Report {
   Str message;         // the sentence shown to the user
-  Str word = "check";  // a short tag: "match", "alive", "cycle" ...; "check" while all is well
+  Str word = "check";  // a short tag: "match", "alive", "cycle" ...; "check" means that all is well
   Str place;           // a placename, or a shortened name where no place is known
   Str name;            // a shortened name, shortened program text, or a second placename
   Str context;         // what `road` was given, shortened; empty otherwise
@@ -23,7 +23,7 @@ Str reporttext(const Report& report);
 // any other shape is itself the message, under the word "raise".
 Report reportparse(const Str& text);
 
-// The three ways to keep a field short, at most 74 bytes.
+// The three ways to keep a field short, at 72 bytes or less.
 //   shortname  a name; one of five bytes gets two more, so that it never reads as a place
 //   shorttext  program text; what is open where it is cut is closed again
 //   shortcode  the same, but wings are bytes like any other

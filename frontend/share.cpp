@@ -3,8 +3,11 @@
 // up are shared already, that comparison hardly ever goes deeper than one level.
 #include "frontend/share.h"
 
+#include <functional>
+#include <iterator>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 
 namespace tarn {
 
@@ -31,13 +34,15 @@ uint64_t hashleaf(Cell* leaf) {
   return std::hash<std::string_view>()(text);
 }
 
-// Not symmetric: `a b` and `b a` differ.
+// Not symmetric: `a b` and `b a` differ. The factor is 2^64 divided by the golden ratio, which
+// spreads its bits well.
 uint64_t hashpair(uint64_t left, uint64_t right) {
-  uint64_t h = (left ^ (left >> 29)) * 0x9e3779b97f4a7c15 + (right ^ (right >> 31)) + 1;
+  constexpr uint64_t golden = 0x9e3779b97f4a7c15;
+  uint64_t h = (left ^ (left >> 29)) * golden + (right ^ (right >> 31)) + 1;
   return h ^ (h >> 32);
 }
 
-// The entry that equals the term; the term enters itself if there is none.
+// The entry that equals the term; if there is none, the term itself becomes one.
 Shared enter(CellRef term, uint64_t hash) {
   ShareTable& table = sharetable();
   auto [from, to] = table.terms.equal_range(hash);

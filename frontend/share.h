@@ -7,11 +7,11 @@
 
 namespace tarn {
 
-// The one cell for the term, lent, and all terms equal to it.
+// Gives the one cell that stands for the term, which is lent, and for all terms equal to it.
 CellRef sharepass(Cell* term);
 
-// Takes the entries out of the table that still need evaluation: all of them, or those of the term
-// down to where it is normal. These annotate.
+// Takes out of the table what still needs evaluation: all such entries, or those of one term, down
+// to where it is normal. Both annotate.
 void sharetrim();
 void unsharepass(Cell* term);
 

@@ -10,12 +10,13 @@ namespace tarn {
 
 static bool iswhite(uint8_t c) { return c == ' ' || c == '\n'; }
 
-// Whether a run of white space with `before` and `after` beside it has no meaning. A wing needs
-// none on either side.
+// Whether a run of white space between these two bytes has no meaning. A wing needs none on either
+// side.
 static bool isloose(uint8_t before, uint8_t after) {
   if (isgluebyte(before) || isgluebyte(after)) return true;
-  return before == '(' || before == '{' || before == '}' ||  //
-         after == ')' || after == '}' || after == '{';
+  bool afteropening = before == '(' || before == '{' || before == '}';
+  bool beforeclosing = after == ')' || after == '}' || after == '{';
+  return afteropening || beforeclosing;
 }
 
 Str tidytext(const Str& text) {

@@ -5,9 +5,9 @@
 
 namespace tarn {
 
-// The program text, which must have passed bracketcheck, without white space at its ends, next to
-// a glue byte, or inside a bracket; a run elsewhere becomes one space. Strings are kept byte for
-// byte, so that a newline is left in them only.
+// The program text without the white space at its ends, beside a glue byte, or just inside a
+// parenthesis, and around wings; a run of it elsewhere becomes one space. Strings are kept byte for
+// byte, so that a newline is left in them only. The text must have passed bracketcheck.
 Str tidytext(const Str& text);
 
 }  // namespace tarn

@@ -15,19 +15,19 @@ namespace tarn {
 
 struct TypeField {
   const char* name;
-  int64_t size;
-  int64_t offset;
+  int64_t size;    // in bytes
+  int64_t offset;  // from the start of the record
 };
 
 struct TypeRecord {
   const char* name;
-  int64_t size;
-  const TypeField* fields;  // in any order, not overlapping
-  int32_t count;
+  int64_t size;             // in bytes
+  const TypeField* fields;  // in any order, not overlapping; null where there are none
+  int32_t count;            // of fields
 };
 
 struct TypeRecords {
-  const TypeRecord* rows;
+  const TypeRecord* rows;  // lent for the whole process
   int32_t count;
 };
 

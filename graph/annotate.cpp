@@ -17,7 +17,7 @@ static uint64_t variablebits(const uint8_t* text) {
   check(text[1] == 0);
   check(text[0] >= 'a');
   check(text[0] <= 'z');
-  return codebits(CELLMAXARITY) | uint64_t{1} << (text[0] - 'a' + CELLFIELDSHIFT);
+  return codebits(cellmaxarity) | uint64_t{1} << (text[0] - 'a' + cellfieldshift);
 }
 
 static uint64_t namebits(Cell* c) {
@@ -34,7 +34,7 @@ static uint64_t leafbits(Cell* c) {
     case '\n':
     case ')': return codebits(1);
     case ']': return codebits(2);
-    case '[': return CELLFLAG;
+    case '[': return cellflagbit;
     case ' ':
     case '(': return codebits(1);
     default: return isdigitbyte(leafbytes(c)[0]) ? codebits(1) : namebits(c);
@@ -45,8 +45,8 @@ static uint64_t leafbits(Cell* c) {
 
 uint64_t datapairbits(const Cell* l, const Cell* r) {
   uint64_t sum = cellfield(l) + cellfield(r);
-  if (cellfield(l) < 2 || cellfield(r) < 2 || sum >= CELLFIELDLIMIT) sum = 0;
-  return CELLFLAG | sum << CELLFIELDSHIFT;
+  if (cellfield(l) < 2 || cellfield(r) < 2 || sum >= cellfieldlimit) sum = 0;
+  return cellflagbit | sum << cellfieldshift;
 }
 
 // `{ v e` does not see its v, and `{ v e body` binds it in the body.
@@ -88,7 +88,7 @@ void cellannotatenew(Cell* c) {
 
 uint32_t cellfree(Cell* c) {
   cellannotate(c);
-  return static_cast<uint32_t>(knownfree(c) >> CELLFIELDSHIFT);
+  return static_cast<uint32_t>(knownfree(c) >> cellfieldshift);
 }
 
 }  // namespace tarn

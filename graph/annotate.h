@@ -1,5 +1,5 @@
-// The cached description as the machine reads and writes it: of cells that are annotated already,
-// so that each test is a load and a compare, and a new Pair of two such cells is annotated at once.
+// The cached description as the machine writes it: a new Pair of two cells that are annotated
+// already is annotated at once, in a few instructions. Only the files of graph/ use this.
 #pragma once
 
 #include <cstdint>
@@ -9,38 +9,22 @@
 
 namespace tarn {
 
-constexpr uint64_t codebits(int arity) {
-  return static_cast<uint64_t>(arity + CELLNOARITY) << CELLCODESHIFT;
-}
-
-inline uint64_t codeof(const Cell* c) { return c->header & CELLCODE; }
-
-// cellisdata, cellarity, cellpending and cellnormal.
-inline bool knowndata(const Cell* c) { return (c->header & (CELLCODE | CELLFLAG)) == CELLFLAG; }
-inline int knownarity(const Cell* c) {
-  uint64_t code = codeof(c);
-  return code == 0 ? 1 : static_cast<int>(code >> CELLCODESHIFT) - CELLNOARITY;
-}
-inline bool knownpending(const Cell* c) { return (c->header & CELLFLAG) != 0 && codeof(c) != 0; }
-inline bool knownnormal(const Cell* c) {
-  uint64_t word = c->header & (CELLCODE | CELLFLAG);
-  return word == CELLFLAG || (word > codebits(0) && word < CELLFLAG);
-}
-
-// cellfree, in the place of field. Of the leaves only variables have free letters, and only they
-// have an arity that is not known; the field of any other is a length or a count.
+// The letters of cellfree, where they stand in the header. Of the leaves only variables have free
+// letters, and only they have an arity that is not known; the field of any other is a length, a
+// count or a line. 0 for a cell that is not annotated.
 inline uint64_t knownfree(const Cell* c) {
   uint64_t code = codeof(c);
-  bool counts = code == 0 || (cellisleaf(c) && code != codebits(CELLMAXARITY));
-  return counts ? 0 : c->header & CELLFIELD;
+  bool counts = code == 0 || (cellisleaf(c) && code != codebits(cellmaxarity));
+  return counts ? 0 : c->header & cellfieldmask;
 }
 
-// The parts of pairbits that are seldom needed: all bits of a Pair of two data, and the letters of a
-// Pair over a Pair, which may be a local binding; `letters` are those of both links.
+// The two parts of pairbits that are seldom needed: all bits of a Pair of two data, and the letters
+// of a Pair whose left link is a Pair, so that it may be a local binding; `letters` are those of
+// both links.
 uint64_t datapairbits(const Cell* l, const Cell* r);
 uint64_t binderletters(const Cell* l, const Cell* r, uint64_t letters);
 
-// A Pair over l is `\ v body`.
+// Whether a Pair with l on its left is an abstraction, `\ v body`.
 inline bool takesbody(const Cell* l) {
   return cellispair(l) && cellbyte(leftlink(l)) == '\\';
 }
@@ -52,7 +36,7 @@ inline uint64_t pairbits(const Cell* l, const Cell* r) {
     if (knowndata(r)) return datapairbits(l, r);
     code = codebits(1);
   }
-  bool sticky = code == codebits(CELLMAXARITY) || code <= codebits(CELLMINARITY);
+  bool sticky = code == codebits(cellmaxarity) || code <= codebits(cellminarity);
   if (!sticky) code -= codebits(1) - codebits(0);
   uint64_t letters = knownfree(l) | knownfree(r);
   if (cellispair(l)) {
@@ -60,12 +44,12 @@ inline uint64_t pairbits(const Cell* l, const Cell* r) {
     if (letters != 0) letters = binderletters(l, r, letters);
   }
   // Clean only if the head is clean and the argument is a clean value.
-  bool pends = knownpending(l) || (!knowndata(r) && ((r->header & CELLFLAG) != 0 ||
+  bool pends = knownpending(l) || (!knowndata(r) && ((r->header & cellflagbit) != 0 ||
                                                      codeof(r) < codebits(1)));
-  return code | letters | (pends ? CELLFLAG : 0);
+  return code | letters | (pends ? cellflagbit : 0);
 }
 
-// The Pair of two annotated cells, annotated, taking over the caller's references to both.
+// Gives the Pair of two annotated cells, annotated too; takes over the caller's references to both.
 inline Cell* newpair(Cell* l, Cell* r) { return storepair(l, r, pairbits(l, r) | 1); }
 
 }  // namespace tarn

@@ -7,7 +7,8 @@
 
 namespace tarn {
 
-// Gives the term that becomes the next focus. head is the atom, lent; a0 its first argument, taken.
+// Gives the term that becomes the next focus. The head is the atom itself, lent; a0 is its first
+// argument, taken.
 using AtomFn = CellRef (*)(Cell* head, CellRef a0);
 
 struct AtomTable {
@@ -18,7 +19,7 @@ struct AtomTable {
   AtomFn cray;
 };
 
-// Hands the functions in; all of them, before anything is evaluated.
+// Hands the functions in, all of them. To be called before anything is evaluated.
 void atomsuse(const AtomTable& table);
 const AtomTable& atoms();
 

@@ -10,8 +10,8 @@
 
 namespace tarn {
 
-// A builtin takes the saturated application `f a b c`, puts its answer in out and gives out back.
-// The arguments are the right links down the left spine, the last one outermost:
+// A builtin takes the saturated application `f a b c`, puts its answer in out and returns out. The
+// arguments are the right links down the left spine, the last one outermost:
 //
 //   Cell* c = rightlink(application);
 //   Cell* b = rightlink(leftlink(application));
@@ -23,17 +23,18 @@ using BuiltinFn = CellRef& (*)(CellRef& out, CellRef application);
 
 struct BuiltinEntry {
   uint32_t arity;  // 0 to 7
-  BuiltinFn fn;
+  BuiltinFn fn;    // never null
 };
 
 struct BuiltinRow {
-  const char* name;
-  uint32_t arity;
-  BuiltinFn fn;
+  const char* name;  // no two rows have the same
+  uint32_t arity;    // 0 to 7
+  BuiltinFn fn;      // never null
 };
 
-// Hands in the rows, `count` of them, which must outlive the process; before anything else of the
-// language is used. A second call replaces the first, which is for tests.
+// Hands in the rows, `count` of them, which are lent for the rest of the process. To be called
+// before anything else of the language is used; a second call replaces the rows, which is for
+// tests.
 void builtinuse(const BuiltinRow* rows, int count);
 
 // From name to entry, of all rows; built on first use.

@@ -54,13 +54,14 @@ CellRef cellapply4(Cell* a, Cell* b, Cell* c, Cell* d, Cell* e) {
 
 // --- Leaves --------------------------------------------------------------------------------------
 
-static bool storeslength(uint8_t first) { return (first >= '0' && first <= '9') || first == '['; }
+static bool storeslength(uint8_t first) { return isdigitbyte(first) || first == '['; }
 
+// Gives the leaf whose n bytes of text are set, or at least the first of them.
 static CellRef leafheaded(Cell* c, int64_t n) {
   leafbytes(c)[n] = 0;
-  c->header = CELLLEAF | 1;
+  c->header = cellleafbit | 1;
   uint64_t length = static_cast<uint64_t>(n);
-  if (storeslength(leafbytes(c)[0]) && length < CELLFIELDLIMIT) setfield(c, length);
+  if (storeslength(leafbytes(c)[0]) && length < cellfieldlimit) setfield(c, length);
   return CellRef::adopt(c);
 }
 
@@ -85,63 +86,69 @@ CellRef leafcstr(const char* text) {
   return leafmade(text, static_cast<int64_t>(strlen(text)));
 }
 
-CellRef leafstr(Str text) { return leafmade(text.bytes(), text.len()); }
+CellRef leafstr(const Str& text) { return leafmade(text.bytes(), text.len()); }
 
 CellRef leafbyte(uint8_t byte) { return leafmade(&byte, 1); }
 
-CellRef leafdigits(uint64_t n) {
-  char digits[24];
-  char* at = digits + sizeof digits;
+CellRef leafdigits(uint64_t magnitude, bool negative) {
+  uint8_t digits[24];  // 64 bits are at most 20 digits, and the sign
+  uint8_t* end = digits + sizeof digits;
+  uint8_t* at = end;
   do {
-    *--at = static_cast<char>('0' + n % 10);
-    n /= 10;
-  } while (n != 0);
-  return leafmade(at, digits + sizeof digits - at);
+    *--at = static_cast<uint8_t>('0' + magnitude % 10);
+    magnitude /= 10;
+  } while (magnitude != 0);
+  if (negative) *--at = '0';
+  return leafmade(at, end - at);
 }
 
 // --- Arrays --------------------------------------------------------------------------------------
 
+constexpr int64_t slotsize = 8;  // bytes of a link
+
+static uint8_t* slotbytes(const Cell* c, int64_t i) { return leafbytes(c) + 1 + slotsize * i; }
+
 CellRef craynew(int64_t slots) {
   check(slots >= 0);
-  int64_t n = 0;  // and a NUL, so that the text of an empty array ends
-  if (__builtin_mul_overflow(slots, 8, &n)) n = INT64_MAX - 64;
-  n++;
+  int64_t size = 0;
+  // Where that wraps: more than malloc grants.
+  if (__builtin_mul_overflow(slots, slotsize, &size)) size = INT64_MAX - 1;
+  int64_t n = 1 + size;
   Cell* c = storeleaf(n);
-  memset(leafbytes(c), 0, static_cast<size_t>(n) + 1);
+  memset(leafbytes(c), 0, static_cast<size_t>(n) + 1);  // and the NUL
   leafbytes(c)[0] = '\n';
-  c->header = CELLLEAF | 1;
-  setfield(c, static_cast<uint64_t>(slots) % CELLFIELDLIMIT);
+  c->header = cellleafbit | 1;
+  setfield(c, static_cast<uint64_t>(slots) % cellfieldlimit);
   return CellRef::adopt(c);
 }
 
-// The slots that a grown block has room for stand in its hidden word; 0 for any other block.
-static int64_t crayroom(const Cell* c) { return static_cast<int64_t>(leafhint(c) >> 3); }
-
 static Cell* crayroomier(Cell* c, int64_t room) {
-  Cell* grown = storeregrown(c, 8 * room + 1);
-  leafhint(grown) = (leafhint(grown) & ~CELLHINT) | static_cast<uint64_t>(room) << 3;
+  Cell* grown = storeregrown(c, 1 + slotsize * room);
+  setleafcount(grown, room);
   return grown;
 }
 
 Cell* craygrown(Cell* c) {
   int64_t n = crayslots(c);
   check(cellrefs(c) == 1);
-  if (n >= crayroom(c)) c = crayroomier(c, 2 * n + 8);
+  if (n >= leafcount(c)) c = crayroomier(c, 2 * n + 8);
   setfield(c, static_cast<uint64_t>(n) + 1);
-  memset(leafbytes(c) + 1 + 8 * n, 0, 8 + 1);  // and the NUL
+  memset(slotbytes(c, n), 0, slotsize + 1);  // and the NUL
   return c;
 }
 
 Cell* crayslot(const Cell* c, int64_t i) {
   Cell* v = nullptr;
-  memcpy(&v, leafbytes(c) + 1 + 8 * i, 8);  // the slots are not aligned
+  memcpy(&v, slotbytes(c, i), slotsize);  // the slots are not aligned
   return v;
 }
 
+void crayput(Cell* c, int64_t i, Cell* link) { memcpy(slotbytes(c, i), &link, slotsize); }
+
+// The old element goes last, when the new one is in: it may run a finaliser.
 void crayfill(Cell* c, int64_t i, CellRef v) {
   CellRef old = CellRef::adopt(crayslot(c, i));
-  Cell* given = v.give();
-  memcpy(leafbytes(c) + 1 + 8 * i, &given, 8);
+  crayput(c, i, v.give());
 }
 
 // --- Text ----------------------------------------------------------------------------------------
@@ -170,7 +177,7 @@ static int64_t balancedlength(const uint8_t* text) {
 static int64_t scannedlength(const uint8_t* text) {
   int64_t n = text[0] == '[' ? balancedlength(text)
                              : static_cast<int64_t>(strlen(reinterpret_cast<const char*>(text)));
-  check(static_cast<uint64_t>(n) >= CELLFIELDLIMIT);
+  check(static_cast<uint64_t>(n) >= cellfieldlimit);
   return n;
 }
 
@@ -180,7 +187,7 @@ static int64_t textlength(const Cell* c) {
     uint64_t stored = cellfield(c);
     return stored != 0 ? static_cast<int64_t>(stored) : scannedlength(text);
   }
-  if (text[0] == ' ') return 9;
+  if (text[0] == ' ') return 1 + sizeof(double);
   if (text[0] == '\n') return 1;
   if (text[0] == '(') {
     int64_t n = 0;
@@ -197,21 +204,21 @@ Str celltext(const Cell* c) {
 
 int64_t cellsize(const Cell* c) {
   if (cellispair(c)) return 0;
-  if (leafbytes(c)[0] == '\n') return 8 * crayslots(c) + 1;
+  if (leafbytes(c)[0] == '\n') return 1 + slotsize * crayslots(c);
   return textlength(c);
 }
 
 // --- Header --------------------------------------------------------------------------------------
 
 void setarity(Cell* c, int n) {
-  check(n <= CELLMAXARITY);
-  check(n >= -CELLNOARITY);
-  c->header = (c->header & ~CELLCODE) | static_cast<uint64_t>(n + CELLNOARITY) << CELLCODESHIFT;
+  check(n <= cellmaxarity);
+  check(n >= -cellnoarity);
+  c->header = (c->header & ~cellcodemask) | static_cast<uint64_t>(n + cellnoarity) << cellcodeshift;
 }
 
 void setfield(Cell* c, uint64_t v) {
-  check(v < CELLFIELDLIMIT);
-  c->header = (c->header & ~CELLFIELD) | v << CELLFIELDSHIFT;
+  check(v < cellfieldlimit);
+  c->header = (c->header & ~cellfieldmask) | v << cellfieldshift;
 }
 
 }  // namespace tarn

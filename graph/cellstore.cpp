@@ -8,15 +8,15 @@ namespace tarn {
 
 CellStore cellstore = {};
 
-constexpr int64_t RECORD = 24;
-constexpr int64_t BLOCK = 4096 * RECORD;
+constexpr int64_t recordsize = 24;                // bytes
+constexpr int64_t blocksize = 4096 * recordsize;  // what one malloc gets
 
 static int64_t apart = 0;  // records in use that are blocks of their own
 
 [[maybe_unused]] static void* freshapart() {
   apart++;
   if (apart > cellstore.room) cellstore.room = apart;
-  return blockmake(RECORD);
+  return blockmake(recordsize);
 }
 
 void storedropapart(void* r) {
@@ -29,26 +29,28 @@ void* storefresh() {
   static char* at = nullptr;
   static char* end = nullptr;
   if (at == end) {
-    at = static_cast<char*>(malloc(BLOCK));
-    end = at + BLOCK;
+    at = static_cast<char*>(malloc(blocksize));
+    end = at + blocksize;
   }
   cellstore.room++;
   void* r = at;
-  at += RECORD;
+  at += recordsize;
   return r;
 }
 
 // The hidden word, the header, the text and its NUL; all ones where that wraps, so that malloc
-// refuses. An array of n bytes gets one byte more than it needs: it reads as the text "\n" then.
+// refuses. An array has the NUL too, though it needs none: an empty one then reads as the text
+// "\n".
 static size_t leafblock(int64_t n) {
+  constexpr size_t around = 2 * sizeof(uint64_t) + 1;
   size_t size = 0;
-  return __builtin_add_overflow(static_cast<size_t>(n), size_t{17}, &size) ? SIZE_MAX : size;
+  return __builtin_add_overflow(static_cast<size_t>(n), around, &size) ? SIZE_MAX : size;
 }
 
 Cell* storeleaf(int64_t n) {
-  if (n <= CELLSHORTTEXT) {
+  if (n <= cellshorttext) {
     uint64_t* r = static_cast<uint64_t*>(storerecord());
-    r[0] = CELLSHORT;
+    r[0] = cellshortbit;
     return reinterpret_cast<Cell*>(r + 1);
   }
   cellstore.made++;
@@ -60,12 +62,12 @@ Cell* storeleaf(int64_t n) {
 }
 
 Cell* storeregrown(Cell* c, int64_t n) {
-  if ((leafhint(c) & CELLSHORT) == 0) {
+  if ((leafhint(c) & cellshortbit) == 0) {
     uint64_t* block = static_cast<uint64_t*>(blockgrow(c - 1, leafblock(n)));
     return reinterpret_cast<Cell*>(block + 1);
   }
   Cell* grown = storeleaf(n);
-  memcpy(grown, c, sizeof(Cell) + CELLSHORTTEXT + 1);
+  memcpy(grown, c, sizeof(Cell) + cellshorttext + 1);
   storefreeleaf(c);
   return grown;
 }
@@ -74,7 +76,7 @@ void storefreeleaf(Cell* c) {
   cellstore.freed++;
   if (istodo(c)) cellstore.todos--;
   void* block = c - 1;
-  if ((leafhint(c) & CELLSHORT) != 0) {
+  if ((leafhint(c) & cellshortbit) != 0) {
     storegiveback(block);
   } else {
     cellstore.longs--;

@@ -10,24 +10,25 @@
 #pragma once
 
 #include <cstdint>
+#include <cstring>
 
 #include "graph/cell.h"
 
 namespace tarn {
 
 struct CellStore {
-  void** free;     // records given back, each holding the address of the next; null: none
-  int64_t made;    // cells ever made
-  int64_t freed;   // cells ever freed
-  int64_t room;    // records ever taken from the blocks: as many as were in use at once
-  int64_t longs;   // long leaves alive
-  int64_t longest; // most long leaves alive at once
-  int64_t todos;   // leaves alive with the text "todo": while there is none, nobody looks for them
+  void** free;      // records given back, each holding the address of the next; null: none
+  int64_t made;     // cells ever made
+  int64_t freed;    // cells ever freed
+  int64_t room;     // records ever taken from the blocks: as many as were in use at once
+  int64_t longs;    // long leaves alive
+  int64_t longest;  // most long leaves alive at once
+  int64_t todos;    // leaves alive with the text "todo": while there is none, nobody looks for them
 };
 extern CellStore cellstore;
 
-constexpr uint64_t CELLSHORT = 1;     // in the hidden word: the leaf is a record of the store
-constexpr int64_t CELLSHORTTEXT = 7;  // most bytes of text in one
+constexpr uint64_t cellshortbit = 1;  // in the hidden word: the leaf is a record of the store
+constexpr int64_t cellshorttext = 7;  // most bytes of text in one
 
 #ifdef __SANITIZE_ADDRESS__
 constexpr bool recordsapart = true;
@@ -66,11 +67,13 @@ inline void storefreepair(Cell* c) {
   storegiveback(c);
 }
 
-Cell* storeleaf(int64_t n);     // for n bytes of text and a NUL; nothing is set but the hidden word
-Cell* storeregrown(Cell* c, int64_t n);  // a leaf with room for n bytes instead; its text is kept
+// A leaf for n bytes of text, 0 or more, and a NUL; nothing is set but the hidden word.
+Cell* storeleaf(int64_t n);
+// The same leaf with room for n bytes, more than it had; it may move. Its text is kept.
+Cell* storeregrown(Cell* c, int64_t n);
 void storefreeleaf(Cell* c);
 
-// A leaf with exactly that text.
+// A leaf with exactly the text "todo".
 inline bool istodo(const Cell* c) {
   return cellbyte(c) == 't' && strcmp(reinterpret_cast<const char*>(leafbytes(c)), "todo") == 0;
 }

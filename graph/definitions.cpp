@@ -2,6 +2,7 @@
 #include "graph/definitions.h"
 
 #include <memory>
+#include <utility>
 
 #include "foundation/chars.h"
 
@@ -64,7 +65,7 @@ Definition* definitionlookup(Cell* leaf) {
   return d;
 }
 
-// Two parameters, and the second applied to the first.
+// Whether a definition takes two parameters and applies the second to the first.
 static bool isflip(const Definition* d) {
   if (d->arity != 2 || d->letters[0] == d->letters[1] || d->builtin != nullptr) return false;
   if (cellisleaf(d->body)) return false;
@@ -76,8 +77,8 @@ void definitionlearn(Definition* d) {
   Cell* body = d->term;
   int n = 0;
   for (; cellform(body) == 'u'; body = rightlink(body)) {
-    if (n < DEFINITIONPARAMS) d->letters[n] = cellbyte(rightlink(leftlink(body)));
-    if (n < CELLMAXARITY) n++;
+    if (n < definitionparams) d->letters[n] = cellbyte(rightlink(leftlink(body)));
+    if (n < cellmaxarity) n++;
   }
   d->arity = static_cast<uint8_t>(n);
   d->body = body;
@@ -85,7 +86,6 @@ void definitionlearn(Definition* d) {
   d->known = true;
 }
 
-// The registry was replaced: the records learn of the new one.
 void definitionsrelink() {
   for (auto& [name, record] : records()) record->builtin = builtinfind(name);
 }

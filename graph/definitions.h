@@ -17,19 +17,21 @@
 
 namespace tarn {
 
-constexpr int DEFINITIONPARAMS = 10;  // most leading abstractions whose letters are kept
+// The most parameters that a definition is unfolded with: with more its arity is not known.
+constexpr int definitionparams = cellmaxarity - 1;
 
 struct Definition {
   Str name;
-  CellRef term;                 // null: not defined. Read it; defset and deferase change it.
+  CellRef term;                 // null: not defined. To be read; defset and deferase change it.
   const BuiltinEntry* builtin;  // null: no builtin has that name
   bool named;                   // the name passes `isname`, so that its leaves have an arity
   bool alive;                   // evaluated anew at each use
-  bool known;                   // whether what follows has been worked out from term
-  uint8_t arity;                      // number of leading abstractions, at most 11
-  uint8_t letters[DEFINITIONPARAMS];  // their variables, outermost first; 0 behind the last
+  bool known;                   // the rest has been worked out from term, and is good only then
+
+  uint8_t arity;                      // the number of leading abstractions; 11 for 11 and more
+  uint8_t letters[definitionparams];  // their variables, outermost first, set up to arity
   Cell* body;                         // what is below them; lent by term
-  bool flips;                         // term is `\a\b (b a)`, for two letters, and no builtin
+  bool flips;                         // term is `\a\b b a`, of any two letters; not for a builtin
 };
 
 // From name to record, of exactly those that have a term, in the byte order of Str. The key "" is
@@ -66,10 +68,12 @@ void aliveadd(const Str& name);
 void aliveremove(const Str& name);  // also where there is none
 void aliveclear();
 
-void definitionsrelink();  // the registry of builtins was replaced
+// Looks the builtins of all records up again, since the registry was replaced.
+void definitionsrelink();
 
-// The head of a term is lazy if its first text byte is one of & A B C D E F H I J K L N Q R T U V X
-// Z and |. All others want their arguments evaluated first.
+// A head is lazy if the first byte of its text is one of these: & | and all capitals but G M O P S
+// W and Y. All others want their arguments evaluated first. On purpose: what the program has
+// defined under the name makes no difference.
 inline constexpr std::array<bool, 256> lazybytes = [] {
   std::array<bool, 256> table = {};
   for (char c : std::string_view("&ABCDEFHIJKLNQRTUVXZ|")) table[static_cast<uint8_t>(c)] = true;

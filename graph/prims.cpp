@@ -1,7 +1,10 @@
 // The primitive reductions, a function each.
 #include "graph/prims.h"
 
+#include <utility>
+
 #include "foundation/chars.h"
+#include "foundation/str.h"
 #include "graph/atoms.h"
 #include "graph/substitute.h"
 
@@ -17,10 +20,10 @@ Cell* spinehead(Cell* f) {
 }
 
 void walkspine(Spine& p, Cell* f) {
-  Cell* reversed[MAXARGS];
+  Cell* reversed[maxargs];
   int n = 0;
   for (; cellispair(f) && !knowndata(f); f = leftlink(f)) {
-    check(n < MAXARGS);
+    check(n < maxargs);
     reversed[n++] = rightlink(f);
   }
   p.head = f;
@@ -30,11 +33,12 @@ void walkspine(Spine& p, Cell* f) {
 
 // --- Putting arguments in ------------------------------------------------------------------------
 
-// A body with more arguments than its head takes leaves them in frames, so no Pairs are made for
-// them. Each is a step. Data is no such head: with a string for an argument it may be a rope.
+// Puts arguments in for letters of a body. If the body has more arguments than its head takes,
+// those go into frames at once, and no Pairs are made for them; each is a step. Not under a head of
+// data: if its argument turns out to be data, the two are a rope.
 static void unfold(State& s, Cell* body, const Bindings& to, uint32_t letters) {
-  uint64_t set = uint64_t{letters} << CELLFIELDSHIFT;
-  if (knownarity(body) < 0 && knownarity(body) > CELLMINARITY && !knowndata(spinehead(body))) {
+  uint64_t set = uint64_t{letters} << cellfieldshift;
+  if (knownarity(body) < 0 && knownarity(body) > cellminarity && !knowndata(spinehead(body))) {
     while (knownarity(body) < 0 && (knownfree(body) & set) != 0) {
       pushgive(s, instantiate(rightlink(body), to, letters));
       body = leftlink(body);
@@ -66,15 +70,16 @@ void primbind(State& s, Cell* v, Cell* arg, Cell* body) {
 
 // --- Builtins and atoms --------------------------------------------------------------------------
 
-// The result of all is x, whatever was to follow.
+// Ends the run with the value x, whatever was to follow.
 static void cutoff(State& s, CellRef x) {
   focuson(s, x.give());
   dropframes(s);
 }
 
-// A new leaf of a mark and a text behind it.
+// A new leaf: a mark, and a text behind it.
 static CellRef marked(uint8_t mark, const Str& text) { return leafstr(strbyte(mark) + text); }
 
+// A report, or a cycle, that is to be the value of the run.
 static bool israised(const Cell* r) {
   if (cellisleaf(r)) return false;
   uint8_t mark = cellbyte(leftlink(r));
@@ -96,7 +101,6 @@ static void primatom(State& s, const Spine& p, AtomFn fn) {
 // --- Locals --------------------------------------------------------------------------------------
 
 void waitlocal(State& s, Cell* v, Cell* e, Cell* body) {
-  stepcount++;
   CellRef l = cellapply2(leafbyte('\\'), v, body);
   cellannotate(l);
   focuson(s, cellhold(e));
@@ -108,7 +112,6 @@ static void primlocal(State& s, const Spine& p) {
     primbind(s, p.args[0], p.args[1], p.args[2]);
   } else {
     waitlocal(s, p.args[0], p.args[1], p.args[2]);
-    stepcount--;
   }
 }
 
@@ -128,9 +131,9 @@ static void primmemo(State& s, const Spine& p) {
   focuson(s, value.give());
 }
 
-// A constant is evaluated at most once: meanwhile its definition is the leaf ")", and its value
-// comes back to the memo mark, ")" and its name.
-void primconstant(State& s, Definition* d) {
+// A constant is evaluated at most once. Meanwhile its definition is the leaf ")", so that a cycle
+// is noticed, and the value comes back to the memo mark, a leaf of ")" and the name.
+static void primconstant(State& s, Definition* d) {
   Cell* term = d->term;
   if (!d->alive && cellbyte(term) == ')') return cutoff(s, marked(')', d->name));
   if (d->alive || cellnormal(term)) return focuson(s, cellhold(term));

@@ -2,38 +2,40 @@
 // (reduce.cpp) decides which redex goes next.
 #pragma once
 
+#include "graph/cell.h"
 #include "graph/definitions.h"
 #include "graph/state.h"
 
 namespace tarn {
 
-constexpr int MAXARGS = CELLMAXARITY;  // a redex never has more arguments than its arity was
+constexpr int maxargs = cellmaxarity;  // a redex never has more arguments than its arity was
 
-// The head of a spine and its arguments, the nearest to the head first; all lent.
+// The head of a spine and its arguments; all lent.
 struct Spine {
-  Cell* head;
-  int count;
-  Cell* args[MAXARGS];
+  Cell* head;           // a leaf, or data
+  int count;            // of arguments, 0 to maxargs
+  Cell* args[maxargs];  // the nearest to the head first; set up to count
 };
 
-// Down the left links of f, to a leaf or data.
+// The head alone: down the left links of f, to a leaf or data.
 Cell* spinehead(Cell* f);
-// The whole of it; more arguments than MAXARGS are a program fault.
+// The whole spine; more arguments than maxargs are a program fault.
 void walkspine(Spine& p, Cell* f);
 
-// One primitive reduction of the focus, which is closed and of arity 0. Each counts as a step.
+// One primitive reduction of the focus, which is closed and of arity 0; anything else is a program
+// fault. Counts as a step.
 void reduceprim(State& s);
 
-// The same for parts of a redex that need no Pair made of them. The focus is what is dropped.
+// The same for a redex of which no Pair was made: its parts are lent, and the old focus is dropped
+// for the result. These do not count.
 void primunfold(State& s, const Definition* d, const Spine& p);  // d has p.count parameters, over 0
 void primbind(State& s, Cell* v, Cell* arg, Cell* body);         // `\ v body arg`
-void primconstant(State& s, Definition* d);                      // d has a term and no parameters
 
-// The focus `{ v e body`, its e to be evaluated first: `\ v body` waits for the value. Counts as a
-// step.
+// The focus is `{ v e body`, and e is still to be evaluated: it becomes the focus, and `\ v body`
+// waits for its value.
 void waitlocal(State& s, Cell* v, Cell* e, Cell* body);
 
-// How many steps there were, of all runs.
+// How many steps there were, in all runs of the process.
 extern int64_t stepcount;
 
 }  // namespace tarn

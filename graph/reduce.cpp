@@ -1,7 +1,9 @@
-// The abstract machine: one flat loop over one state (state.h). This is its scheduler: which redex
-// goes next, and what is evaluated first. The rules stand in terms of cells; where a value meets an
-// argument or a function that waits for it, the common cases go on without making the Pair of both.
+// The abstract machine: one flat loop over one state (state.h). This is its scheduler: it decides
+// which redex goes next, and what is evaluated first. Where a value meets an argument, or a
+// function that waits for it, the common cases go on without making the Pair of the two.
 #include "graph/reduce.h"
+
+#include <cstdlib>
 
 #include "graph/prims.h"
 
@@ -11,13 +13,13 @@ static int64_t steplimit = INT64_MAX;
 
 int64_t reducesteps() { return stepcount; }
 
-void reducelimit(int64_t limit) { steplimit = limit; }
+void reducelimit(int64_t steps) { steplimit = steps; }
 
 static bool islazyhead(Cell* f) { return islazybyte(cellbyte(spinehead(f))); }
 
 // --- Taking the focus apart ----------------------------------------------------------------------
 
-// Splits the focus `l b` in two references.
+// Takes the focus apart, `l b`, into a reference to each link.
 static void splitfocus(State& s, Cell*& l, Cell*& b) {
   Cell* f = s.focus;
   l = leftlink(f);
@@ -54,7 +56,7 @@ static void pushleft(State& s) {
 
 // --- A value meets a value -----------------------------------------------------------------------
 
-// Adds the arguments of the partial application v of a definition, and its head.
+// The spine of a value: a leaf, a partial application or data.
 static void startspine(Spine& p, Cell* v) {
   if (cellisleaf(v)) {
     p.head = v;
@@ -64,8 +66,8 @@ static void startspine(Spine& p, Cell* v) {
   }
 }
 
-// The definition that a head unfolds, with its parameters known; null if it does anything else, or
-// has not n parameters.
+// The definition that a head unfolds when it gets n arguments, its parameters known; null if it
+// does anything else, or takes another number.
 static Definition* unfolds(Cell* head, int n) {
   if (cellispair(head)) return nullptr;
   uint8_t first = leafbytes(head)[0];
@@ -73,11 +75,11 @@ static Definition* unfolds(Cell* head, int n) {
   Definition* d = leafdefinition(head);
   if (d == nullptr || d->builtin != nullptr || d->term.null()) return nullptr;
   definitionknow(d);
-  return d->arity == n && n <= DEFINITIONPARAMS ? d : nullptr;
+  return d->arity == n && n <= definitionparams ? d : nullptr;
 }
 
-// The value l is applied to the value b, both owned: with arguments still missing that is a value
-// again, else the redex is reduced at once.
+// Applies the value l to the value b, and takes both: while arguments are still missing that is a
+// value again, else the redex is reduced at once.
 static void applyvalue(State& s, Cell* l, Cell* b) {
   s.focus = l;
   if (knownarity(l) == 1 && cellispair(l) && takesbody(leftlink(l))) {
@@ -106,7 +108,8 @@ static Definition* flipper() {
   return d;
 }
 
-// `T b v` with a T of the program's own.
+// The focus v becomes `T b v`. On purpose: it is the definition of T that then applies v to b, so
+// that a T of the program's own changes what surplus arguments do.
 static void stepflip(State& s, Cell* b) {
   if (!flipper()->term.null()) definitionknow(flipper());
   CellRef flip = leafbyte('T');
@@ -114,8 +117,9 @@ static void stepflip(State& s, Cell* b) {
   s.focus = newpair(newpair(flip.give(), b), s.focus);
 }
 
-// A lazy head with all its arguments in frames takes them as they are. As steps, an argument counts
-// two as long as the application so far is a value; once it is not, all the rest are taken at once.
+// A lazy head with all its arguments in frames takes them as they are. False if it has not, or
+// unfolds no definition. An argument counts as two steps as long as the application so far is a
+// value; once it is not, all the rest are taken in one.
 static bool takelazy(State& s, Spine& p, int n) {
   if (givesupply(s, n) < n) return false;
   Definition* d = unfolds(p.head, p.count + n);
@@ -129,48 +133,47 @@ static bool takelazy(State& s, Spine& p, int n) {
   }
   stepcount++;
   s.top -= n;
-  uint64_t taken[MAXARGS];
+  uint64_t taken[maxargs];
   for (int i = 0; i < n; i++) taken[i] = s.top[i];  // unfolding may push new frames there
   primunfold(s, d, p);
   for (int i = n; i > 0; i--) cellunhold(framecell(taken[i - 1]));
   return true;
 }
 
-// The function waits for the argument that was in the last frame, which is evaluated.
-static void waitforgiven(State& s, Cell* b) {
+// Takes the argument b out of the last frame, and the focus v becomes `v b`: two steps, the first
+// of them to `T b v`.
+static void joingiven(State& s) {
+  stepcount += 2;
+  Cell* b = framecell(*--s.top);
+  s.focus = newpair(s.focus, b);
+}
+
+// The same, and a step on: v waits, and b is evaluated.
+static void waitforgiven(State& s) {
+  stepcount += 3;
   Cell* v = s.focus;
-  s.focus = b;
-  s.top--;
+  s.focus = framecell(*--s.top);
   pushwait(s, v);
 }
 
+// The value in the focus meets the argument in the last frame.
 static void stepgive(State& s) {
   Cell* v = s.focus;
+  if (knowndata(v) || knownarity(v) == cellmaxarity) return joingiven(s);
   Cell* b = framecell(s.top[-1]);
-  stepcount += 2;  // to T b v, and to v b
-  if (knowndata(v) || knownarity(v) == CELLMAXARITY) {
-    s.top--;
-    s.focus = newpair(v, b);
-    return;
-  }
   Spine p;
   startspine(p, v);
   uint8_t first = cellbyte(p.head);
   if (islazybyte(first)) {
-    stepcount -= 2;
-    if (takelazy(s, p, knownarity(v))) return;
-    stepcount += 2;
-    s.top--;
-    s.focus = newpair(v, b);
+    if (!takelazy(s, p, knownarity(v))) joingiven(s);
   } else if (knownnormal(b)) {
+    stepcount += 2;
     s.top--;
     applyvalue(s, v, b);
   } else if (first != '\\' && first != '{') {
-    stepcount++;
-    waitforgiven(s, b);
+    waitforgiven(s);
   } else {
-    s.top--;
-    s.focus = newpair(v, b);
+    joingiven(s);
   }
 }
 
@@ -199,6 +202,7 @@ static void stepstrict(State& s) {
     Cell* key = leftlink(leftlink(f));
     Cell* e = rightlink(leftlink(f));
     if (knownnormal(e)) return reduceprim(s);
+    stepcount++;
     return waitlocal(s, rightlink(key), e, rightlink(f));
   }
   if (knownpending(leftlink(f))) {
@@ -208,8 +212,8 @@ static void stepstrict(State& s) {
   }
 }
 
-// A partial application with unevaluated arguments, n more missing. A lazy head takes them from the
-// frames, all or none, with nothing evaluated.
+// A partial application with unevaluated arguments, n more missing. If its head is lazy and the
+// frames have all n, it takes them, and nothing is evaluated.
 static void steppartial(State& s, int n) {
   if (islazyhead(s.focus) && givesupply(s, n) == n) {
     for (; n > 0; n--) s.focus = newpair(s.focus, framecell(*--s.top));
@@ -236,7 +240,8 @@ static void reducestep(State& s) {
   }
 }
 
-// A failure leaf is a value whatever the program has defined; Z need not be one.
+// Ends the run at the limit of steps. A failure leaf is a value whatever the program has defined; Z
+// need not be one.
 static void giveup(State& s) {
   focuson(s, leafbyte(']').give());
   dropframes(s);

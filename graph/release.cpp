@@ -1,10 +1,13 @@
 // What happens when the last reference to a cell goes: its links are released, the left one before
 // the right one, the slots of an array from the first, and the record is given back. Values nest a
-// million deep, so this keeps a list of the dead cells that still have links to release, and
-// threads it through the cells themselves: a Pair's left link and an array's first slot hold the
-// next of the list once they have been released.
+// million deep, so this keeps a list of the dead cells that still have links to release. The list
+// is threaded through the cells themselves: once its first link has been released, a Pair keeps the
+// next cell of the list in its left link, an array in its first slot.
 //
 // A Pair `todo x y` is a finaliser: when it dies, the program evaluates `x y` and drops the result.
+#include <cstdint>
+
+#include "graph/annotate.h"
 #include "graph/cellstore.h"
 #include "graph/reduce.h"
 
@@ -18,18 +21,10 @@ bool finaliserswitch(bool on) {
   return was;
 }
 
-// The free letters as the header tells them, without annotating: a new cell has none.
-static bool rawopen(const Cell* c) {
-  uint8_t first = cellbyte(c);
-  if ((first >= '0' && first <= '9') || first == '[' || first == '\n' || first == '`') return false;
-  bool data = (c->header & (CELLCODE | CELLFLAG)) == CELLFLAG;
-  return cellfield(c) != 0 && !data;
-}
-
 // An application is evaluated only if both parts are closed values: anything else was never the
-// program's own finaliser, but a piece of its text.
+// program's own finaliser, but a piece of its text. What is known to be open is not annotated.
 static void finalise(Cell* x, Cell* y) {
-  if (rawopen(x) || rawopen(y)) return;
+  if (knownfree(x) != 0 || knownfree(y) != 0) return;
   CellRef heldx = cellcopy(x);
   CellRef heldy = cellcopy(y);
   if (!cellnormal(x) || !cellnormal(y)) return;
@@ -46,16 +41,9 @@ static void finalisepair(const Cell* c) {
 // --- The list of dead cells with links to release ------------------------------------------------
 
 // How many slots of a dead array have been released is kept in its hidden word.
-static int64_t slotsreleased(const Cell* c) { return static_cast<int64_t>(leafhint(c) >> 3); }
 
-static void setslotsreleased(Cell* c, int64_t n) {
-  leafhint(c) = (leafhint(c) & ~CELLHINT) | static_cast<uint64_t>(n) << 3;
-}
-
-static void setslotzero(Cell* c, Cell* v) { memcpy(leafbytes(c) + 1, &v, sizeof v); }
-
-// Gives the first link of a dead cell and puts the cell on the list; a cell without links is freed,
-// and the answer is null, as it is for an empty slot.
+// Hands out the first link of a dead cell and puts the cell on the list; a cell without links is
+// freed, and the answer is null, as it is for an empty slot.
 static Cell* firstlink(Cell* c, Cell*& list) {
   Cell* v = nullptr;
   if (cellispair(c)) {
@@ -64,8 +52,8 @@ static Cell* firstlink(Cell* c, Cell*& list) {
     leftlink(c) = list;
   } else if (leafbytes(c)[0] == '\n' && crayslots(c) != 0) {
     v = crayslot(c, 0);
-    setslotzero(c, list);
-    setslotsreleased(c, 1);
+    crayput(c, 0, list);
+    setleafcount(c, 1);
   } else {
     storefreeleaf(c);
     return nullptr;
@@ -74,8 +62,8 @@ static Cell* firstlink(Cell* c, Cell*& list) {
   return v;
 }
 
-// Gives the next link of the cell at the head of the list, which is taken off and freed once it has
-// no more.
+// Hands out the next link of the cell at the head of the list; the cell is taken off and freed when
+// that was its last.
 static Cell* nextlink(Cell*& list) {
   Cell* c = list;
   if (cellispair(c)) {
@@ -84,9 +72,9 @@ static Cell* nextlink(Cell*& list) {
     storefreepair(c);
     return v;
   }
-  int64_t i = slotsreleased(c);
+  int64_t i = leafcount(c);
   if (i < crayslots(c)) {
-    setslotsreleased(c, i + 1);
+    setleafcount(c, i + 1);
     return crayslot(c, i);
   }
   list = crayslot(c, 0);
@@ -98,7 +86,7 @@ void cellfreed(Cell* c) {
   Cell* list = nullptr;
   Cell* v = firstlink(c, list);
   while (true) {
-    while (v != nullptr && (--v->header & CELLREFS) == 0) v = firstlink(v, list);
+    while (v != nullptr && (--v->header & cellrefsmask) == 0) v = firstlink(v, list);
     if (list == nullptr) return;
     v = nextlink(list);
   }

@@ -5,8 +5,7 @@
 
 namespace tarn {
 
-// On purpose: the abstraction is told by its head alone, so `\ v` needs only two links to the left
-// where `{ v e` needs three.
+// The `\` of an abstraction stands two links to the left, the `{` of a local binding three.
 char cellform(const Cell* c) {
   if (cellisleaf(c)) return 'o';
   c = leftlink(c);
@@ -16,7 +15,7 @@ char cellform(const Cell* c) {
   return leafisbyte(leftlink(c), '{') ? 'i' : 'o';
 }
 
-static char leafkind(Cell* c) {
+static char leafkind(const Cell* c) {
   const uint8_t* text = leafbytes(c);
   switch (text[0]) {
     case ' ': return 'r';
@@ -25,7 +24,7 @@ static char leafkind(Cell* c) {
     case '[': return 'u';
     default: break;
   }
-  if (text[0] < '0' || text[0] > '9') return 'e';
+  if (!isdigitbyte(text[0])) return 'e';
   return text[0] == '0' && text[1] == '0' ? 'o' : 'i';
 }
 

@@ -1,11 +1,15 @@
 // The frames of the machine.
 #include "graph/state.h"
 
+#include <cstdlib>
+
 namespace tarn {
+
+constexpr int64_t firstroom = 64;  // frames
 
 void growframes(State& s) {
   int64_t used = s.top - s.frames;
-  int64_t room = used == 0 ? 64 : 2 * used;
+  int64_t room = used == 0 ? firstroom : 2 * used;
   void* moved = realloc(s.frames, static_cast<size_t>(room) * sizeof(uint64_t));
   s.frames = static_cast<uint64_t*>(moved);
   s.top = s.frames + used;

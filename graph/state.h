@@ -12,7 +12,6 @@
 #pragma once
 
 #include <cstdint>
-#include <cstdlib>
 
 #include "graph/annotate.h"
 #include "graph/cell.h"
@@ -20,16 +19,16 @@
 namespace tarn {
 
 struct State {
-  Cell* focus;  // owned, annotated
-  uint64_t* frames;
-  uint64_t* top;  // behind the last frame
-  uint64_t* end;  // behind the room for frames
+  Cell* focus;       // owned, annotated
+  uint64_t* frames;  // the first frame; owned, as is the cell of each; null until there is one
+  uint64_t* top;     // behind the last frame
+  uint64_t* end;     // behind the room for frames
 };
 
-constexpr uint64_t GIVES = 1;
+constexpr uint64_t givesbit = 1;  // the lowest bit of a frame
 
-inline bool framegives(uint64_t frame) { return (frame & GIVES) != 0; }
-inline Cell* framecell(uint64_t frame) { return reinterpret_cast<Cell*>(frame & ~GIVES); }
+inline bool framegives(uint64_t frame) { return (frame & givesbit) != 0; }
+inline Cell* framecell(uint64_t frame) { return reinterpret_cast<Cell*>(frame & ~givesbit); }
 
 void growframes(State& s);
 
@@ -40,7 +39,7 @@ inline void pushframe(State& s, uint64_t frame) {
 
 // Takes over the reference to the argument b.
 inline void pushgive(State& s, Cell* b) {
-  pushframe(s, reinterpret_cast<uint64_t>(b) | GIVES);
+  pushframe(s, reinterpret_cast<uint64_t>(b) | givesbit);
 }
 
 // Takes over the reference to l. A frame of `T a` that the program itself spells is one that gives.
@@ -61,7 +60,7 @@ inline void focuson(State& s, Cell* made) {
   cellunhold(old);
 }
 
-// How many frames from the last one on give, counted up to n.
+// How many of the frames, from the last one back and without a gap, give; counted up to n.
 inline int givesupply(const State& s, int n) {
   int count = 0;
   while (count < n && s.top - count != s.frames && framegives(s.top[-1 - count])) count++;

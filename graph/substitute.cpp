@@ -7,10 +7,10 @@
 namespace tarn {
 
 static uint64_t letterbit(uint8_t letter) {
-  return uint64_t{1} << (letter - 'a' + CELLFIELDSHIFT);
+  return uint64_t{1} << (letter - 'a' + cellfieldshift);
 }
 
-// Both want letters in the place of field, some of them free in body.
+// Here `letters` stand where a header has them. In boundwithin some of them are free in body.
 static Cell* boundwithin(Cell* body, const Bindings& to, uint64_t letters);
 
 static Cell* bound(Cell* body, const Bindings& to, uint64_t letters) {
@@ -18,7 +18,7 @@ static Cell* bound(Cell* body, const Bindings& to, uint64_t letters) {
   return here == 0 ? cellhold(body) : boundwithin(body, to, here);
 }
 
-// `{ v e b`: e sees the letters, b all but v.
+// `{ v e b`: all letters are replaced in e, and all but v in b.
 static Cell* boundlocal(Cell* body, const Bindings& to, uint64_t letters) {
   Cell* key = leftlink(leftlink(body));
   Cell* b = bound(rightlink(body), to, letters & ~letterbit(cellbyte(rightlink(key))));
@@ -39,7 +39,7 @@ static Cell* boundwithin(Cell* body, const Bindings& to, uint64_t letters) {
 }
 
 Cell* instantiate(Cell* body, const Bindings& to, uint32_t letters) {
-  return bound(body, to, uint64_t{letters} << CELLFIELDSHIFT);
+  return bound(body, to, uint64_t{letters} << cellfieldshift);
 }
 
 void substitute(CellRef& out, CellRef body, CellRef arg, uint8_t letter) {

@@ -2,6 +2,7 @@
 #include "graph/tern.h"
 
 #include <set>
+#include <utility>
 
 namespace tarn {
 

@@ -3,9 +3,11 @@
 
 #include <bit>
 
+#include "foundation/str.h"
 #include "values/answer.h"
 #include "values/bitlist.h"
 #include "values/bits.h"
+#include "values/bytes.h"
 #include "values/coerce.h"
 #include "values/cray.h"
 #include "values/hint.h"
@@ -125,8 +127,6 @@ static CellRef corkcray(const Cork& cork) {
   craysethere(cork.x, at, cork.v);
   return cellcopy(cork.x);
 }
-
-static bool istruth(const Cell* v) { return istrue(v) || isfalse(v); }
 
 static CellRef corkreal(const Cork& cork) {
   if (!istruth(cork.v)) return failure();

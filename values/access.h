@@ -9,9 +9,9 @@ namespace tarn {
 CellRef valuelook(Cell* x, Cell* i);           // the element or bit at i
 CellRef valuetrim(Cell* x, Cell* a, Cell* b);  // what stands from a up to but not including b
 
-// `cork x i v`: x with v at i. This is the one builtin that may change a value: when nothing but its
-// own application holds x, x itself becomes the answer, so that a loop over an array that nobody
-// else sees costs what its steps cost. Nobody can look at the old x any more.
+// `cork x i v`: x with v at i. When nothing but its own application holds x, x itself is changed
+// and becomes the answer, so that a loop over an array that nobody else sees costs what its steps
+// cost. Nobody can look at the old x any more.
 CellRef& callcork(CellRef& out, CellRef application);
 
 }  // namespace tarn

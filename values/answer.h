@@ -7,6 +7,8 @@
 //   {"plus", 2, with2<valueplus>},     a row of the table of builtins
 #pragma once
 
+#include <utility>
+
 #include "graph/builtins.h"
 #include "graph/cell.h"
 
@@ -16,17 +18,21 @@ namespace tarn {
 // and no two answers are one.
 inline CellRef failure() { return leafbyte('Z'); }
 
+// What was made, or a failure if it is null.
+inline CellRef orfailure(CellRef made) { return made.null() ? failure() : std::move(made); }
+
 inline bool istrue(const Cell* x) { return leafisbyte(x, 'K'); }
 inline bool isfalse(const Cell* x) { return leafisbyte(x, 'H'); }
-inline bool isfailure(const Cell* x) { return leafisbyte(x, 'Z'); }
+inline bool istruth(const Cell* x) { return istrue(x) || isfalse(x); }
 
 // The arguments of an application, lent, counted from the last one.
 inline Cell* lastarg(const Cell* f) { return rightlink(f); }
 inline Cell* secondlastarg(const Cell* f) { return rightlink(leftlink(f)); }
 inline Cell* thirdlastarg(const Cell* f) { return rightlink(leftlink(leftlink(f))); }
 
-// Nothing but this application of n arguments holds its first one: neither is that shared, nor any
-// of the Pairs on the way to it. Such a value may be changed; nobody can look at the old one again.
+// Whether nothing but this application of n arguments holds its first one: neither that is shared,
+// nor any of the Pairs on the way to it. Such a value may be changed, since nobody can look at the
+// old one again.
 inline bool ownsfirst(const Cell* f, int n) {
   for (; n > 1; n--, f = leftlink(f)) {
     if (!alone(cellrefs(f))) return false;

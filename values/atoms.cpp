@@ -2,20 +2,18 @@
 #include "values/atoms.h"
 
 #include <bit>
+#include <utility>
 #include <vector>
 
 #include "values/answer.h"
 #include "values/coerce.h"
 #include "values/cray.h"
+#include "values/pairs.h"
 #include "values/post.h"
 #include "values/real.h"
 #include "values/zits.h"
 
 namespace tarn {
-
-static CellRef twofold(uint8_t head, CellRef p, CellRef q) {
-  return cellpairtake(cellpairtake(leafbyte(head), std::move(p)), std::move(q));
-}
 
 // --- Integers ------------------------------------------------------------------------------------
 //
@@ -23,7 +21,7 @@ static CellRef twofold(uint8_t head, CellRef p, CellRef q) {
 // can be told of the decimal text alone; each line is the shape of s, what it spells, and the rest:
 //
 //   4x + 3         x       half of x; if x is even, with the sign
-//   4x + 1         0x      the numb 2x: a zero for each time x can be halved, then half of the odd one
+//   4x + 1         0x      the numb 2x: a zero for each time x can be halved, half of the odd rest
 //   numb 4y        000..   the same with one zero less
 //   numb 4m + 2    00m     half of m; if m is even, with the sign
 
@@ -130,7 +128,7 @@ CellRef realapplied(Cell* head, CellRef a) {
 static CellRef sizedcray(Cell* a) {
   if (!isnat(a)) return failure();
   uint64_t slots = hintlow(a);
-  return slots < CELLFIELDLIMIT ? craynew(static_cast<int64_t>(slots)) : failure();
+  return slots < cellfieldlimit ? craynew(static_cast<int64_t>(slots)) : failure();
 }
 
 static CellRef slotset(Cell* head, Cell* a) {

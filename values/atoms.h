@@ -1,6 +1,6 @@
-// What integers, strings, posts, reals and arrays do when they are applied. There is no other way to
-// take a value apart: each answers its argument with a term made of pairs and lists, so that a
-// program can walk any value bit by bit or element by element.
+// What integers, strings, posts, reals and arrays do when they are applied: each answers its
+// argument with a term made of pairs and lists, so that a program can walk any value bit by bit or
+// element by element. The head is lent, the argument taken, the answer given.
 //
 //   integer   V head rest          the list of its bits; the argument is dropped
 //   zits      a (X J) list         `K` for "[]"; but V init last for the argument `G`
@@ -11,8 +11,8 @@
 //             K or H               whether slot a is set
 #pragma once
 
-#include "foundation/str.h"
 #include "graph/atoms.h"
+#include "graph/cell.h"
 #include "values/bytes.h"
 
 namespace tarn {
@@ -26,8 +26,8 @@ CellRef crayapplied(Cell* head, CellRef a);
 inline constexpr AtomTable atomrules = {integerapplied, dataapplied, postapplied, realapplied,
                                         crayapplied};
 
-// The list of a number without its first element: a digit leaf again, or the leaf K if it had just
-// that one. Of a digit text, an integer or a numb.
+// The rest of the list that a digit text spells, an integer's or a numb's: the list without its
+// first element. A digit leaf again, or the leaf K if there was just the one.
 CellRef intrest(Bytes text);
 
 }  // namespace tarn

@@ -1,30 +1,24 @@
 // From lists of truth values to bit strings and back.
 #include "values/bitlist.h"
 
-#include "foundation/chars.h"
+#include <utility>
+
+#include "values/answer.h"
 #include "values/bits.h"
+#include "values/pairs.h"
 
 namespace tarn {
 
-static bool isdigitleaf(const Cell* x) { return isdigitbyte(cellbyte(x)); }
-
-static bool istruth(const Cell* x) { return leafisbyte(x, 'K') || leafisbyte(x, 'H'); }
-
-// The left link of a list cell, `J b`.
-static bool isconshead(const Cell* x) { return cellispair(x) && leafisbyte(leftlink(x), 'J'); }
-
-static bool islistcell(const Cell* x) {
-  return cellispair(x) && isconshead(leftlink(x)) && istruth(rightlink(leftlink(x)));
-}
+static bool islistcell(const Cell* x) { return istwofold(x, 'J') && istruth(firstof(x)); }
 
 bool islistof(const Cell* x, char byte) {
-  return cellispair(x) && isconshead(leftlink(x)) && leafisbyte(rightlink(leftlink(x)), byte);
+  return istwofold(x, 'J') && leafisbyte(firstof(x), byte);
 }
 
 // The elements up to the tail, which comes back in x.
 static int64_t countelements(const Cell*& x) {
   int64_t n = 0;
-  for (; islistcell(x); x = rightlink(x)) n++;
+  for (; islistcell(x); x = secondof(x)) n++;
   return n;
 }
 
@@ -47,8 +41,8 @@ Str bitsofterm(Cell* x) {
     return Str();
   }
   uint8_t* bytes = s.own();
-  for (int64_t i = 0; i < n; i++, x = rightlink(x)) {
-    bool set = leafisbyte(rightlink(leftlink(x)), 'K');
+  for (int64_t i = 0; i < n; i++, x = secondof(x)) {
+    bool set = istrue(firstof(x));
     bytes[i / 8] = static_cast<uint8_t>(bytes[i / 8] | set << (i % 8));
   }
   return s;
@@ -61,8 +55,7 @@ CellRef termofbits(const Str& s) {
 
 CellRef listofbits(const Str& s, CellRef tail) {
   for (int64_t i = bittop(s); i-- > 0;) {
-    CellRef element = leafbyte(bitget(i, s) ? 'K' : 'H');
-    tail = cellpairtake(cellpairtake(leafbyte('J'), std::move(element)), std::move(tail));
+    tail = twofold('J', leafbyte(bitget(i, s) ? 'K' : 'H'), std::move(tail));
   }
   return tail;
 }

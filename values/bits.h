@@ -1,6 +1,6 @@
-// Bit strings: texts of packed bits, bit 0 the lowest bit of byte 0. Read past the end gives 0.
+// Bit strings: texts of packed bits, bit 0 the lowest bit of byte 0. A bit past the end reads as 0.
 // They are what a number is as a list: element i of the list is bit i, and the highest set bit is
-// no element but a sentinel that marks the end.
+// no element but a sentinel that marks the end. All functions lend their texts.
 //
 //   bit string   elements        value          as a number s
 //   {0x01}       none            the leaf K     1
@@ -16,24 +16,24 @@ namespace tarn {
 
 // --- Single bits ---------------------------------------------------------------------------------
 
-bool bitget(int64_t i, const Str& s);          // i is 0 or more
-void bitset(int64_t i, bool v, Str& s);        // grows s by zero bytes as far as i needs
-int64_t bitlen(const Str& s);                  // the highest set bit plus 1; 0 for none
-int64_t bittop(const Str& s);                  // the highest set bit, the list's length; -1: none
+bool bitget(int64_t i, const Str& s);    // a negative i is a program fault
+void bitset(int64_t i, bool v, Str& s);  // the same; grows s by zero bytes as far as i needs
+int64_t bitlen(const Str& s);            // the highest set bit plus 1; 0 for none
+int64_t bittop(const Str& s);            // the highest set bit, the list's length; -1 for none
 bool bitiszero(const Str& s);
 bool bitnonzero(const Str& s);
 
-// --- Arithmetic: no result but that of bitzeros has zero bytes at the high end --------------------
+// --- Arithmetic: no result but that of bitzeros has zero bytes at the high end -------------------
 
-Str bittrim(const Str& s);                     // without zero bytes at the high end
-Str bitzeros(int64_t n);                       // n zero bytes
-Str bitshift(int64_t n, const Str& s);         // up by n bits, or down if n < 0
+Str bittrim(const Str& s);              // without zero bytes at the high end
+Str bitzeros(int64_t n);                // n zero bytes
+Str bitshift(int64_t n, const Str& s);  // up by n bits, or down if n < 0
 Str bitadd(const Str& a, const Str& b);
-Str bitaddsmall(const Str& s, uint64_t n);     // n is below 2^63
-Str bitmulsmall(const Str& s, uint64_t n);     // n is below 2^63
-Str bitdivsmall(const Str& s, uint64_t n);     // the quotient; n is not 0
-int bitmodten(const Str& s);
-Str bitinc(const Str& s);                      // s + 1
+Str bitaddsmall(const Str& s, uint64_t n);  // n of 2^63 and more is a program fault
+Str bitmulsmall(const Str& s, uint64_t n);  // the same
+Str bitdivsmall(const Str& s, uint64_t n);  // the quotient; an n of 0 is a program fault
+int bitmodten(const Str& s);                // the remainder by 10
+Str bitinc(const Str& s);                   // s + 1
 
 // --- The digit text of a list, and back ----------------------------------------------------------
 

@@ -11,8 +11,8 @@ namespace tarn {
 
 __extension__ typedef unsigned __int128 DoubleWord;
 
-constexpr int64_t CHUNKDIGITS = 19;  // the most decimal digits that a word has room for
-constexpr uint64_t CHUNK = 10000000000000000000u;  // 10^19
+constexpr int64_t chunkdigits = 19;  // the most decimal digits that a word has room for
+constexpr uint64_t chunkbase = 10000000000000000000u;  // 10^19
 
 static uint64_t low(DoubleWord d) { return static_cast<uint64_t>(d); }
 static uint64_t high(DoubleWord d) { return static_cast<uint64_t>(d >> 64); }
@@ -46,24 +46,24 @@ static uint64_t powerof10(int64_t n) {
 
 BitWords wordsofdigits(const uint8_t* digits, int64_t n) {
   BitWords words;
-  words.reserve(static_cast<size_t>(n / CHUNKDIGITS + 2));
-  int64_t first = n % CHUNKDIGITS;
+  words.reserve(static_cast<size_t>(n / chunkdigits + 2));
+  int64_t first = n % chunkdigits;
   wordsmuladd(words, powerof10(first), parsechunk(digits, first));
-  for (int64_t at = first; at < n; at += CHUNKDIGITS) {
-    wordsmuladd(words, CHUNK, parsechunk(digits + at, CHUNKDIGITS));
+  for (int64_t at = first; at < n; at += chunkdigits) {
+    wordsmuladd(words, chunkbase, parsechunk(digits + at, chunkdigits));
   }
   return words;
 }
 
 Str digitsofwords(BitWords words) {
-  int64_t room = wordsbitlen(words) * 30103 / 100000 + CHUNKDIGITS + 2;
+  int64_t room = wordsbitlen(words) * 30103 / 100000 + chunkdigits + 2;
   Str text = strsized(room);
   uint8_t* end = text.own() + room;
   uint8_t* at = end;
   wordstrim(words);
   while (!words.empty()) {
-    uint64_t chunk = wordsdivsmall(words, CHUNK);
-    for (int64_t i = 0; i < CHUNKDIGITS; i++, chunk /= 10) {
+    uint64_t chunk = wordsdivsmall(words, chunkbase);
+    for (int64_t i = 0; i < chunkdigits; i++, chunk /= 10) {
       *--at = static_cast<uint8_t>('0' + chunk % 10);
     }
   }

@@ -1,6 +1,7 @@
 // Values as program text, and back.
 #include "values/code.h"
 
+#include "foundation/str.h"
 #include "frontend/load.h"
 #include "frontend/printer.h"
 #include "values/coerce.h"

@@ -1,7 +1,7 @@
 // Between cells and C values.
 #include "values/coerce.h"
 
-#include "foundation/chars.h"
+#include "values/answer.h"
 #include "values/bitlist.h"
 #include "values/bits.h"
 
@@ -9,15 +9,14 @@ namespace tarn {
 
 // --- Shapes --------------------------------------------------------------------------------------
 
-static bool isdigitleaf(const Cell* x) { return isdigitbyte(cellbyte(x)); }
-
 static bool beginswithzeros(const Cell* x) {
   return leafbytes(x)[0] == '0' && leafbytes(x)[1] == '0';
 }
 
+static bool isintegerleaf(const Cell* x) { return isdigitleaf(x) && !beginswithzeros(x); }
+
 bool ishint(const Cell* x) {
-  if (isdigitleaf(x)) return !beginswithzeros(x);
-  return leafisbyte(x, 'K') || islistof(x, 'K');
+  return isintegerleaf(x) || leafisbyte(x, 'K') || islistof(x, 'K');
 }
 
 bool isnumbish(const Cell* x) {
@@ -30,8 +29,6 @@ bool isnat(const Cell* x) {
 }
 
 // --- Integers ------------------------------------------------------------------------------------
-
-static bool isintegerleaf(const Cell* x) { return isdigitleaf(x) && !beginswithzeros(x); }
 
 // The magnitude of an integer leaf modulo 2^64; the sign '0' adds nothing.
 static uint64_t lowofdigits(const Cell* x) {
@@ -61,24 +58,12 @@ int64_t hintsmall(Cell* x) {
   return static_cast<int64_t>(isnegative(x) ? 0 - low : low);
 }
 
-static CellRef leafofmagnitude(bool negative, uint64_t magnitude) {
-  uint8_t digits[24];
-  uint8_t* end = digits + sizeof digits;
-  uint8_t* at = end;
-  do {
-    *--at = static_cast<uint8_t>('0' + magnitude % 10);
-    magnitude /= 10;
-  } while (magnitude != 0);
-  if (negative) *--at = '0';
-  return leafmade(at, end - at);
-}
-
 CellRef hintfrom(int64_t n) {
   uint64_t magnitude = static_cast<uint64_t>(n);
-  return leafofmagnitude(n < 0, n < 0 ? 0 - magnitude : magnitude);
+  return leafdigits(n < 0 ? 0 - magnitude : magnitude, n < 0);
 }
 
-CellRef hintfromu(uint64_t n) { return leafofmagnitude(false, n); }
+CellRef hintfromu(uint64_t n) { return leafdigits(n); }
 
 Str hinttext(Cell* x) {
   CellRef leaf = digitform(x);
@@ -90,9 +75,8 @@ bool isnumber(const Cell* x) { return iswholelist(x); }
 // --- Truth values --------------------------------------------------------------------------------
 
 int truthof(const Cell* x) {
-  bool yes = leafisbyte(x, 'K');
-  check(yes || leafisbyte(x, 'H'));
-  return yes;
+  check(istruth(x));
+  return istrue(x);
 }
 
 CellRef truthleaf(bool v) { return leafbyte(v ? 'K' : 'H'); }

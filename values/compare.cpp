@@ -16,7 +16,7 @@ namespace tarn {
 
 namespace {
 
-enum Verdict { NO, YES, FAILED };  // H, K, Z
+enum Verdict { no, yes, none };  // the leaf H, K or Z
 
 using Comparison = Verdict (*)(Cell* x, Cell* y);
 
@@ -25,21 +25,21 @@ using Comparisons = Comparison[kinds];
 
 }  // namespace
 
-static Verdict verdict(bool holds) { return holds ? YES : NO; }
+static Verdict verdict(bool holds) { return holds ? yes : no; }
 
 static Verdict opposite(Verdict v) {
-  if (v == FAILED) return FAILED;
-  return v == YES ? NO : YES;
+  if (v == none) return none;
+  return v == yes ? no : yes;
 }
 
-static CellRef answered(Verdict v) { return v == FAILED ? failure() : truthleaf(v == YES); }
+static CellRef answered(Verdict v) { return v == none ? failure() : truthleaf(v == yes); }
 
 static Verdict less(Cell* x, Cell* y);
 static Verdict gteq(Cell* x, Cell* y);
 static Verdict same(Cell* x, Cell* y);
 static Verdict diff(Cell* x, Cell* y);
 
-static Verdict failed(Cell*, Cell*) { return FAILED; }
+static Verdict failed(Cell*, Cell*) { return none; }
 
 // --- Void: by the order of terms -----------------------------------------------------------------
 
@@ -58,7 +58,9 @@ static int zitsorder(Cell* x, Cell* y) {
 
 static Verdict postless(Cell* x, Cell* y) { return verdict(postorder(x, y) < 0); }
 static Verdict postgteq(Cell* x, Cell* y) { return verdict(postorder(x, y) >= 0); }
-static Verdict postsame(Cell* x, Cell* y) { return verdict(bytesequal(postbytes(x), postbytes(y))); }
+static Verdict postsame(Cell* x, Cell* y) {
+  return verdict(bytesequal(postbytes(x), postbytes(y)));
+}
 static Verdict zitsless(Cell* x, Cell* y) { return verdict(zitsorder(x, y) < 0); }
 static Verdict zitsgteq(Cell* x, Cell* y) { return verdict(zitsorder(x, y) >= 0); }
 static Verdict zitssame(Cell* x, Cell* y) { return verdict(zitsorder(x, y) == 0); }
@@ -70,12 +72,12 @@ static bool arenumbers(Cell* x, Cell* y) { return isnumber(x) && isnumber(y); }
 
 template <bool (*holds)(Cell*, Cell*)>
 static Verdict ofnumbers(Cell* x, Cell* y) {
-  return arenumbers(x, y) ? verdict(holds(x, y)) : FAILED;
+  return arenumbers(x, y) ? verdict(holds(x, y)) : none;
 }
 
 static bool numbgteq(Cell* x, Cell* y) { return !numbless(x, y); }
 
-// By the digits as they stand: two texts of one number are the same.
+// By the digits as they stand.
 static bool numbersame(Cell* x, Cell* y) {
   if (cellispair(x) || cellispair(y)) return hinttext(x) == hinttext(y);
   return bytesequal({leafbytes(x), cellsize(x)}, {leafbytes(y), cellsize(y)});
@@ -109,15 +111,15 @@ static int64_t shorterslots(const Cell* x, const Cell* y) {
   return crayslots(x) < crayslots(y) ? crayslots(x) : crayslots(y);
 }
 
-// On purpose: the elements' `same` looks at them the other way round, and a failure of it goes on to
-// the next elements.
+// On purpose: the elements' `same` looks at them the other way round, and where it fails the walk
+// goes on to the next elements.
 static Verdict crayless(Cell* x, Cell* y) {
   for (int64_t i = 0; i < shorterslots(x, y); i++) {
     if (oneslot(x, y, i)) continue;
     Elements at(x, y, i);
     Verdict lower = less(at.a, at.b);
-    if (lower != NO) return lower;
-    if (same(at.b, at.a) == NO) return NO;
+    if (lower != no) return lower;
+    if (same(at.b, at.a) == no) return no;
   }
   return verdict(crayslots(x) < crayslots(y));
 }
@@ -127,32 +129,32 @@ static Verdict craygteq(Cell* x, Cell* y) {
     if (oneslot(x, y, i)) continue;
     Elements at(x, y, i);
     Verdict equal = same(at.a, at.b);
-    if (equal == FAILED) return FAILED;
-    if (equal == NO) return gteq(at.a, at.b);
+    if (equal == none) return none;
+    if (equal == no) return gteq(at.a, at.b);
   }
   return verdict(crayslots(x) >= crayslots(y));
 }
 
 static Verdict craysame(Cell* x, Cell* y) {
-  if (crayslots(x) != crayslots(y)) return NO;
+  if (crayslots(x) != crayslots(y)) return no;
   for (int64_t i = 0; i < crayslots(x); i++) {
     if (oneslot(x, y, i)) continue;
     Elements at(x, y, i);
     Verdict equal = same(at.a, at.b);
-    if (equal != YES) return equal;
+    if (equal != yes) return equal;
   }
-  return YES;
+  return yes;
 }
 
 static Verdict craydiff(Cell* x, Cell* y) {
-  if (crayslots(x) != crayslots(y)) return YES;
+  if (crayslots(x) != crayslots(y)) return yes;
   for (int64_t i = 0; i < crayslots(x); i++) {
     if (oneslot(x, y, i)) continue;
     Elements at(x, y, i);
     Verdict unequal = diff(at.a, at.b);
-    if (unequal != NO) return unequal;
+    if (unequal != no) return unequal;
   }
-  return NO;
+  return no;
 }
 
 // --- The operators -------------------------------------------------------------------------------
@@ -179,15 +181,15 @@ static Verdict same(Cell* x, Cell* y) {
   constexpr Comparison number = ofnumbers<numbersame>;
   //                          post      cray      void    hint    numb    real      zits
   static const Comparisons by = {postsame, craysame, failed, number, number, realsame, zitssame};
-  if (x == y) return YES;
+  if (x == y) return yes;
   int kx = kindindex(cellkind(x));
   int ky = kindindex(cellkind(y));
-  return kx == ky ? by[kx](x, y) : NO;
+  return kx == ky ? by[kx](x, y) : no;
 }
 
 // The opposite of `same` but for arrays, whose slots are looked at by `diff` in turn.
 static Verdict diff(Cell* x, Cell* y) {
-  if (x == y) return NO;
+  if (x == y) return no;
   bool crays = cellkind(x) == 'c' && cellkind(y) == 'c';
   return crays ? craydiff(x, y) : opposite(same(x, y));
 }

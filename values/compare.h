@@ -7,8 +7,9 @@
 
 namespace tarn {
 
+// On purpose: `>` is greater or equal.
 CellRef valueless(Cell* x, Cell* y);  // <
-CellRef valuegteq(Cell* x, Cell* y);  // >, which is greater or equal
+CellRef valuegteq(Cell* x, Cell* y);  // >
 CellRef valuesame(Cell* x, Cell* y);  // =
 CellRef valuediff(Cell* x, Cell* y);  // #
 

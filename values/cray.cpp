@@ -2,8 +2,10 @@
 #include "values/cray.h"
 
 #include <cstring>
+#include <utility>
 
 #include "values/answer.h"
+#include "values/pairs.h"
 
 namespace tarn {
 
@@ -12,7 +14,7 @@ CellRef crayempty() {
   return cellcopy(empty);
 }
 
-// Slots n of them, from i on, copied to slots of `to` from j on, which are empty.
+// Copies n slots of `from`, from i on, to those of `to` from j on, which are empty.
 static void copyslots(Cell* to, int64_t j, const Cell* from, int64_t i, int64_t n) {
   if (n == 0) return;
   for (int64_t k = 0; k < n; k++) {
@@ -82,8 +84,7 @@ CellRef crayrepeat(const Cell* x, int64_t n) {
 CellRef craylist(const Cell* x) {
   CellRef list = leafbyte('K');
   for (int64_t i = crayslots(x); i > 0; i--) {
-    CellRef head = cellpairtake(leafbyte('J'), crayget(x, i - 1));
-    list = cellpairtake(std::move(head), std::move(list));
+    list = twofold('J', crayget(x, i - 1), std::move(list));
   }
   return list;
 }

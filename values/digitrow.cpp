@@ -3,8 +3,6 @@
 
 namespace tarn {
 
-static constexpr uint64_t repeated(uint8_t byte) { return 0x0101010101010101u * byte; }
-
 void rowreverse(uint8_t* out, const uint8_t* in, int64_t n) {
   out += n;
   for (; n >= 8; n -= 8, in += 8) storeword(out -= 8, __builtin_bswap64(loadword(in)));
@@ -30,8 +28,8 @@ int rowcompare(const uint8_t* a, int64_t na, const uint8_t* b, int64_t nb) {
   return 0;
 }
 
-// Both sums leave a byte between 0 and 9 where it is right as it stands, and 246 too high where it
-// is not: the low half of such a byte is 6 too high. The top bit tells the two apart.
+// The digits of a sum or difference whose bytes are either right, 0 to 9, or 246 too high. Of the
+// latter the top bit is set, and the low half is 6 too high.
 static uint64_t todigits(uint64_t sum) {
   uint64_t high = (sum & repeated(0x80)) >> 7;
   return (sum & repeated(0x0F)) - 6 * high + repeated('0');
@@ -46,8 +44,8 @@ static uint64_t wordadd(uint64_t x, uint64_t y, uint8_t& carry) {
   return todigits(sum);
 }
 
-// A digit difference below 0 borrows from the next byte and leaves 256 in its own, 246 more than
-// 10.
+// A digit difference below 0 borrows 256 from the next byte, which is 246 more than the 10 that it
+// should.
 static uint64_t wordsub(uint64_t x, uint64_t y, uint8_t& borrow) {
   uint64_t difference;
   uint8_t first = __builtin_sub_overflow(x, y, &difference);

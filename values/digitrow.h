@@ -15,6 +15,8 @@ namespace tarn {
 
 static_assert(std::endian::native == std::endian::little, "rows are loaded lowest byte first");
 
+constexpr uint64_t repeated(uint8_t byte) { return 0x0101010101010101u * byte; }  // in all eight
+
 inline uint64_t loadword(const uint8_t* at) {
   uint64_t word;
   memcpy(&word, at, 8);

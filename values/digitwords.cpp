@@ -3,20 +3,22 @@
 #include "values/digitwords.h"
 
 #include <algorithm>
+#include <cstring>
+#include <utility>
 
 #include "foundation/diag.h"
 #include "values/digitrow.h"
 
 namespace tarn {
 
-constexpr uint64_t WORDBASE = 100000000;
-constexpr int64_t SETTLEROWS = 1800;  // rows of products that a column sum has room for
+constexpr uint64_t wordbase = 100000000;
+constexpr int64_t settlerows = 1800;  // rows of products that a column sum has room for
 
 // --- Between digits and words --------------------------------------------------------------------
 
-// The value of eight digits: neighbours are joined to pairs, pairs to fours, fours to the eight.
+// The value of eight digits: digits are joined to pairs, pairs to fours, and fours to the eight.
 static uint32_t parseword(uint64_t digits) {
-  uint64_t v = __builtin_bswap64(digits) - 0x3030303030303030u;
+  uint64_t v = __builtin_bswap64(digits) - repeated('0');
   v = (v * 10 + (v >> 8)) & 0x00FF00FF00FF00FFu;
   v = (v * 100 + (v >> 16)) & 0x0000FFFF0000FFFFu;
   return static_cast<uint32_t>(v * 10000 + (v >> 32));
@@ -29,7 +31,7 @@ static uint64_t formatword(uint32_t word) {
   uint64_t pairs = high | (fours - 100 * high) << 16;
   uint64_t tens = ((pairs * 103) >> 10) & 0x000F000F000F000Fu;
   uint64_t digits = tens | (pairs - 10 * tens) << 8;
-  return __builtin_bswap64(digits | 0x3030303030303030u);
+  return __builtin_bswap64(digits | repeated('0'));
 }
 
 static void trim(DigitWords& words) {
@@ -41,7 +43,7 @@ DigitWords wordsofrow(const uint8_t* row, int64_t n) {
   uint32_t* out = words.data();
   for (; n >= 8; n -= 8, row += 8) *out++ = parseword(loadword(row));
   if (n > 0) {
-    uint64_t last = 0x3030303030303030u;
+    uint64_t last = repeated('0');
     memcpy(&last, row, static_cast<size_t>(n));
     *out = parseword(last);
   }
@@ -66,8 +68,8 @@ static void settle(uint64_t* columns, size_t n) {
   uint64_t carry = 0;
   for (size_t i = 0; i < n; i++) {
     uint64_t sum = columns[i] + carry;
-    carry = sum / WORDBASE;
-    columns[i] = sum % WORDBASE;
+    carry = sum / wordbase;
+    columns[i] = sum % wordbase;
   }
 }
 
@@ -76,7 +78,7 @@ static DigitWords columnproduct(const DigitWords& a, const DigitWords& b) {
   std::vector<uint64_t> columns(a.size() + b.size());
   for (size_t j = 0; j < b.size(); j++) {
     addrow(columns.data() + j, a.data(), a.size(), b[j]);
-    if (j % SETTLEROWS == SETTLEROWS - 1) settle(columns.data(), columns.size());
+    if (j % settlerows == settlerows - 1) settle(columns.data(), columns.size());
   }
   settle(columns.data(), columns.size());
   DigitWords product(columns.begin(), columns.end());
@@ -87,7 +89,7 @@ static DigitWords columnproduct(const DigitWords& a, const DigitWords& b) {
 // --- Long products -------------------------------------------------------------------------------
 
 // From so many words on, three products of half the length beat four.
-constexpr size_t SPLITWORDS = 256;
+constexpr size_t splitwords = 256;
 
 static DigitWords slice(const DigitWords& a, size_t from, size_t to) {
   DigitWords part(a.data() + from, a.data() + to);
@@ -100,8 +102,8 @@ static void addat(DigitWords& sum, const DigitWords& a, size_t at) {
   uint32_t carry = 0;
   for (size_t i = 0; i < a.size() || carry != 0; i++) {
     uint32_t word = sum[at + i] + (i < a.size() ? a[i] : 0) + carry;
-    carry = word >= WORDBASE;
-    sum[at + i] = static_cast<uint32_t>(word - carry * WORDBASE);
+    carry = word >= wordbase;
+    sum[at + i] = static_cast<uint32_t>(word - carry * wordbase);
   }
 }
 
@@ -118,7 +120,7 @@ static void takeaway(DigitWords& from, const DigitWords& a) {
   for (size_t i = 0; i < a.size() || borrow != 0; i++) {
     uint32_t less = (i < a.size() ? a[i] : 0) + borrow;
     borrow = from[i] < less;
-    from[i] = static_cast<uint32_t>(from[i] + borrow * WORDBASE - less);
+    from[i] = static_cast<uint32_t>(from[i] + borrow * wordbase - less);
   }
 }
 
@@ -150,7 +152,7 @@ static DigitWords splitproduct(const DigitWords& a, const DigitWords& b) {
 
 DigitWords wordsproduct(const DigitWords& a, const DigitWords& b) {
   if (a.size() < b.size()) return wordsproduct(b, a);
-  return b.size() < SPLITWORDS ? columnproduct(a, b) : splitproduct(a, b);
+  return b.size() < splitwords ? columnproduct(a, b) : splitproduct(a, b);
 }
 
 // --- Quotient ------------------------------------------------------------------------------------
@@ -159,7 +161,7 @@ DigitWords wordsproduct(const DigitWords& a, const DigitWords& b) {
 static uint32_t divideshort(DigitWords& a, uint32_t b) {
   uint64_t rest = 0;
   for (size_t i = a.size(); i-- > 0;) {
-    rest = rest * WORDBASE + a[i];
+    rest = rest * wordbase + a[i];
     a[i] = static_cast<uint32_t>(rest / b);
     rest %= b;
   }
@@ -170,26 +172,26 @@ static void scale(DigitWords& a, uint32_t factor) {
   uint64_t carry = 0;
   for (uint32_t& word : a) {
     carry += static_cast<uint64_t>(word) * factor;
-    word = static_cast<uint32_t>(carry % WORDBASE);
-    carry /= WORDBASE;
+    word = static_cast<uint32_t>(carry % wordbase);
+    carry /= wordbase;
   }
   a.push_back(static_cast<uint32_t>(carry));
 }
 
-// Takes q times b from the n + 1 words at a; gives true if that was too much, a is too low then by
-// the base to the power of n + 1.
+// Takes q times b from the n + 1 words at a. True if that was too much: the borrow out of the top
+// word has been dropped then.
 static bool takemultiple(uint32_t* a, const uint32_t* b, size_t n, uint64_t q) {
   uint64_t carry = 0;
   for (size_t i = 0; i < n; i++) {
     carry += q * b[i];
-    uint64_t high = carry / WORDBASE;
-    uint64_t low = carry - high * WORDBASE;
+    uint64_t high = carry / wordbase;
+    uint64_t low = carry - high * wordbase;
     uint64_t borrow = a[i] < low;
-    a[i] = static_cast<uint32_t>(a[i] + borrow * WORDBASE - low);
+    a[i] = static_cast<uint32_t>(a[i] + borrow * wordbase - low);
     carry = high + borrow;
   }
   bool toomuch = a[n] < carry;
-  a[n] = static_cast<uint32_t>(a[n] + (toomuch ? WORDBASE : 0) - carry);
+  a[n] = static_cast<uint32_t>(a[n] + (toomuch ? wordbase : 0) - carry);
   return toomuch;
 }
 
@@ -197,37 +199,39 @@ static void addback(uint32_t* a, const uint32_t* b, size_t n) {
   uint32_t carry = 0;
   for (size_t i = 0; i < n; i++) {
     uint32_t sum = a[i] + b[i] + carry;
-    carry = sum >= WORDBASE;
-    a[i] = static_cast<uint32_t>(sum - carry * WORDBASE);
+    carry = sum >= wordbase;
+    a[i] = static_cast<uint32_t>(sum - carry * wordbase);
   }
-  a[n] = static_cast<uint32_t>((a[n] + carry) % WORDBASE);
+  a[n] = static_cast<uint32_t>((a[n] + carry) % wordbase);
 }
 
-// The word by which b goes into the n + 1 words at a, guessed from the two top words of b and then
-// at most one too high; b's top word is at least half the base.
+// How many times b goes into the n + 1 words at a, less than the base; guessed from the two top
+// words of b, and at most one too high. The top word of b must be at least half the base.
 static uint64_t guess(const uint32_t* a, const uint32_t* b, size_t n) {
-  uint64_t top = a[n] * WORDBASE + a[n - 1];
-  uint64_t q = std::min(top / b[n - 1], WORDBASE - 1);
+  uint64_t top = a[n] * wordbase + a[n - 1];
+  uint64_t q = std::min(top / b[n - 1], wordbase - 1);
   uint64_t rest = top - q * b[n - 1];
-  while (rest < WORDBASE && q * b[n - 2] > rest * WORDBASE + a[n - 2]) {
+  while (rest < wordbase && q * b[n - 2] > rest * wordbase + a[n - 2]) {
     q--;
     rest += b[n - 1];
   }
   return q;
 }
 
-DigitWords wordsquotient(DigitWords& a, const DigitWords& b) {
-  check(!b.empty());
-  if (a.size() < b.size()) return {};
-  if (b.size() == 1) {
-    DigitWords quotient = a;
-    a = {divideshort(quotient, b[0])};
-    trim(a);
-    trim(quotient);
-    return quotient;
-  }
+// The quotient by a single word; the remainder stays in a.
+static DigitWords shortquotient(DigitWords& a, uint32_t b) {
+  DigitWords quotient = std::move(a);
+  a = {divideshort(quotient, b)};
+  trim(a);
+  trim(quotient);
+  return quotient;
+}
+
+// The same by two words and more. Both numbers are scaled by a factor that brings the top word of b
+// to half the base, and the remainder is scaled back.
+static DigitWords longquotient(DigitWords& a, const DigitWords& b) {
   size_t n = b.size();
-  uint32_t factor = static_cast<uint32_t>(WORDBASE / (b.back() + 1));
+  uint32_t factor = static_cast<uint32_t>(wordbase / (b.back() + 1));
   DigitWords divisor = b;
   scale(divisor, factor);  // the new top word is 0
   scale(a, factor);
@@ -244,6 +248,12 @@ DigitWords wordsquotient(DigitWords& a, const DigitWords& b) {
   trim(a);
   trim(quotient);
   return quotient;
+}
+
+DigitWords wordsquotient(DigitWords& a, const DigitWords& b) {
+  check(!b.empty());
+  if (a.size() < b.size()) return {};
+  return b.size() == 1 ? shortquotient(a, b[0]) : longquotient(a, b);
 }
 
 }  // namespace tarn

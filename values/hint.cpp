@@ -4,6 +4,7 @@
 
 #include <cstring>
 
+#include "foundation/str.h"
 #include "values/answer.h"
 #include "values/bitlist.h"
 #include "values/coerce.h"
@@ -13,7 +14,7 @@ namespace tarn {
 
 // --- Reading an operand --------------------------------------------------------------------------
 
-constexpr int64_t SHORTDIGITS = 18;  // so many digits fit into 63 bits, and the sum of two as well
+constexpr int64_t shortdigits = 18;  // so many digits fit into 63 bits, and the sum of two as well
 
 // An operand, its sign taken off. The digits stand in the leaf that is held.
 struct HintView {
@@ -24,7 +25,7 @@ struct HintView {
 
   bool isnumber() const { return n != 0; }
   bool iszero() const { return n == 1 && *digits == '0'; }
-  bool isshort() const { return n <= SHORTDIGITS; }
+  bool isshort() const { return n <= shortdigits; }
 };
 
 static HintView view(Cell* x) {
@@ -94,7 +95,7 @@ CellRef hintabs(Cell* x) {
 // --- Product -------------------------------------------------------------------------------------
 
 static CellRef product(const HintView& x, const HintView& y) {
-  if (x.n + y.n <= SHORTDIGITS) return hintfrom(shortvalue(x) * shortvalue(y));
+  if (x.n + y.n <= shortdigits) return hintfrom(shortvalue(x) * shortvalue(y));
   return signedleaf(x.negative != y.negative, magmul(magnitude(x), magnitude(y)));
 }
 

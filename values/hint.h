@@ -8,9 +8,6 @@
 // number. Anything but an integer is a program fault.
 #pragma once
 
-#include <cstdint>
-
-#include "foundation/str.h"
 #include "graph/cell.h"
 
 namespace tarn {
@@ -20,8 +17,10 @@ CellRef hintsub(Cell* x, Cell* y);
 // On purpose: the product is born annotated, with arity 2 where all other integers have 1.
 CellRef hintmul(Cell* x, Cell* y);
 CellRef hintdiv(Cell* x, Cell* y);  // floored; Z for a zero y
-CellRef hintmod(Cell* x, Cell* y);  // never negative, whatever the signs; Z for a zero y
-CellRef hintpow(Cell* x, Cell* y);  // 0 for a negative y, whatever x is
+// On purpose: the remainder is never negative, whatever the signs, and so no companion of the
+// quotient for a negative y; and a negative power is 0 even of 1. Z for the remainder by zero.
+CellRef hintmod(Cell* x, Cell* y);
+CellRef hintpow(Cell* x, Cell* y);
 CellRef hintneg(Cell* x);
 CellRef hintabs(Cell* x);
 

@@ -21,7 +21,8 @@ inline int kindindex(char kind) {
   }
 }
 
-// What an operator does with values of one kind, or of two. Arguments are lent.
+// What an operator does with a value of one kind, or with two of two kinds. Arguments are lent, the
+// answer is given.
 using Arm1 = CellRef (*)(Cell* x);
 using Arm2 = CellRef (*)(Cell* x, Cell* y);
 

@@ -3,9 +3,11 @@
 
 #include <cstring>
 
+#include "foundation/str.h"
 #include "values/answer.h"
 #include "values/bitlist.h"
 #include "values/bits.h"
+#include "values/bytes.h"
 #include "values/coerce.h"
 #include "values/numbreal.h"
 #include "values/post.h"
@@ -13,8 +15,6 @@
 #include "values/zits.h"
 
 namespace tarn {
-
-static CellRef orfailure(CellRef made) { return made.null() ? failure() : made; }
 
 // --- lits ----------------------------------------------------------------------------------------
 

@@ -1,14 +1,14 @@
 // The builtins `lits` and `lots`: from a list of truth values to the leaf that stands for it, and
-// back. Strings and reals have such forms too. Both lend their argument.
+// back. Strings and reals have such forms too. Both lend their argument and give the answer.
 #pragma once
 
 #include "graph/cell.h"
 
 namespace tarn {
 
-// Packs. A list of truth values becomes its digit leaf, the empty one `K`; a digit leaf is
-// answered as it is; a real becomes the exact numb; the first 8 bytes of a zits or a post are
-// read as one integer, lowest byte first. All else is `Z`.
+// Packs. A list of truth values becomes its digit leaf, and the empty one `K`; a digit leaf is
+// answered as it is; a real becomes the exact numb; of a zits or a post the first 8 bytes are read
+// as one signed integer, lowest byte first. All else is `Z`.
 CellRef valuelits(Cell* x);
 
 // Unpacks into a complete list that ends in `K`. A number becomes its bits; a real the 64 bits of

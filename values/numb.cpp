@@ -2,6 +2,7 @@
 #include "values/numb.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "foundation/chars.h"
 #include "values/answer.h"
@@ -118,10 +119,10 @@ CellRef numbmod(Cell* x, Cell* y) {
 
 // --- Power ---------------------------------------------------------------------------------------
 
-constexpr int64_t POWERLIMIT = 61;  // the list of an exponent must be shorter
+constexpr int64_t powerlimit = 61;  // the list of an exponent must be shorter
 
 static CellRef poweroftwo(Cell* y) {
-  if (bittop(bitsofterm(y)) >= POWERLIMIT) return failure();
+  if (bittop(bitsofterm(y)) >= powerlimit) return failure();
   Str t = strbyte(1);
   bitset(numbindex(hintsmall(y)), true, t);
   return numbleaf(t);

@@ -27,12 +27,13 @@ CellRef numbneg(Cell* x);
 // magnitude of y is 2^59 or more. With any other x a negative y gives Z, and zero gives 00.
 CellRef numbpow(Cell* x, Cell* y);
 
-// On purpose: the place of 2^0, not the sign. The order of numbs goes by it as well.
+// On purpose: the sign that programs see is the bit at the place of 2^0, and the order of numbs
+// goes by it as well.
 bool numbsign(Cell* x);
 bool numbless(Cell* x, Cell* y);
 
-// The body, empty for a list that is no number; and the digit leaf of a body, which must have a set
-// bit.
+// The body of a numb (numbbody.h), empty for a list that is no number; and the digit leaf of a
+// body. A body without a set bit is a program fault.
 Str numbbits(Cell* x);
 CellRef numbleaf(const Str& t);
 

@@ -7,6 +7,7 @@
 
 #include <bit>
 
+#include "foundation/str.h"
 #include "values/bits.h"
 #include "values/bitwords.h"
 #include "values/bitlist.h"
@@ -16,14 +17,14 @@
 
 namespace tarn {
 
-constexpr int MANTISSABITS = 52;
-constexpr int64_t EXPONENTBIAS = 1023;
-constexpr int64_t LEASTNORMAL = -1022;    // the exponent of the least double with a leading 1
-constexpr int64_t LEASTPOSITION = -1074;  // the weight of the last bit of a double
-constexpr uint64_t LEADINGBIT = uint64_t{1} << MANTISSABITS;
-constexpr uint64_t MANTISSA = LEADINGBIT - 1;
-constexpr uint64_t SIGNBIT = uint64_t{1} << 63;
-constexpr uint64_t OUTOFRANGE = 0x7FF9000000000000u;
+constexpr int mantissabits = 52;
+constexpr int64_t exponentbias = 1023;
+constexpr int64_t leastnormal = -1022;    // the exponent of the least double with a leading 1
+constexpr int64_t leastposition = -1074;  // the weight of the last bit of a double
+constexpr uint64_t leadingbit = uint64_t{1} << mantissabits;
+constexpr uint64_t mantissamask = leadingbit - 1;
+constexpr uint64_t doublesign = uint64_t{1} << 63;
+constexpr uint64_t outofrange = 0x7FF9000000000000u;
 
 // --- To numbs ------------------------------------------------------------------------------------
 
@@ -36,15 +37,15 @@ CellRef hinttonumb(Cell* x) {
 
 CellRef numbofreal(double d) {
   uint64_t bits = std::bit_cast<uint64_t>(d);
-  int64_t exponent = static_cast<int64_t>(bits >> MANTISSABITS & 0x7FF);
+  int64_t exponent = static_cast<int64_t>(bits >> mantissabits & 0x7FF);
   if (bits == 0) return leafcstr("000");
-  if (bits == SIGNBIT || exponent == 0x7FF) return leafcstr("00");
+  if (bits == doublesign || exponent == 0x7FF) return leafcstr("00");
   bool normal = exponent != 0;
-  uint64_t significand = (bits & MANTISSA) | (normal ? LEADINGBIT : 0);
-  int64_t point = -LEASTPOSITION - (normal ? exponent - 1 : 0);
+  uint64_t significand = (bits & mantissamask) | (normal ? leadingbit : 0);
+  int64_t point = -leastposition - (normal ? exponent - 1 : 0);
   BitWords words = {significand};
   if (point < 0) words = wordsshift(words, -point);
-  return numbleaf(numbspread((bits & SIGNBIT) == 0, {words, point < 0 ? 0 : point}));
+  return numbleaf(numbspread((bits & doublesign) == 0, {words, point < 0 ? 0 : point}));
 }
 
 // --- To doubles ----------------------------------------------------------------------------------
@@ -63,23 +64,23 @@ static uint64_t reversed(uint64_t value, int n) {
 
 // The n bits below the top one, the highest of them in the lowest place of the n at the top.
 static uint64_t subnormalbits(const NumbRow& row, int64_t top) {
-  int n = static_cast<int>(top - LEASTPOSITION + 1);
-  return reversed(bitsfrom(row, top - 1, n), n) << (MANTISSABITS - n);
+  int n = static_cast<int>(top - leastposition + 1);
+  return reversed(bitsfrom(row, top - 1, n), n) << (mantissabits - n);
 }
 
 static uint64_t magnitudebits(const Str& t) {
   int64_t top = numbtop(t);
-  if (top > EXPONENTBIAS || top < LEASTPOSITION) return OUTOFRANGE;
+  if (top > exponentbias || top < leastposition) return outofrange;
   NumbRow row = numbgather(t, t.len());
-  if (top < LEASTNORMAL) return subnormalbits(row, top);
-  uint64_t exponent = static_cast<uint64_t>(top + EXPONENTBIAS);
-  return exponent << MANTISSABITS | bitsfrom(row, top - 1, MANTISSABITS);
+  if (top < leastnormal) return subnormalbits(row, top);
+  uint64_t exponent = static_cast<uint64_t>(top + exponentbias);
+  return exponent << mantissabits | bitsfrom(row, top - 1, mantissabits);
 }
 
 static double doubleofbody(const Str& t) {
   if (numbiszero(t)) return 0.0;
   uint64_t bits = magnitudebits(t);
-  if (bits != OUTOFRANGE && !numbpositive(t)) bits |= SIGNBIT;
+  if (bits != outofrange && !numbpositive(t)) bits |= doublesign;
   return std::bit_cast<double>(bits);
 }
 

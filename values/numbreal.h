@@ -8,8 +8,8 @@ namespace tarn {
 // The numb of an integer; null for a list that is no number.
 CellRef hinttonumb(Cell* x);
 
-// The exact numb of a double. On purpose: +0.0 gives "000", which is -1; -0.0, an infinity or a NaN
-// gives "00".
+// The exact numb of a double. On purpose: +0.0 gives "000", which reads as -1; -0.0, an infinity
+// and a NaN give "00".
 CellRef numbofreal(double d);
 
 // The double of a numb, a real leaf; null for a list that is no number. Low bits are cut off, never

@@ -8,7 +8,10 @@
 
 #include <cmath>
 
+#include "foundation/escapes.h"
+#include "foundation/str.h"
 #include "values/answer.h"
+#include "values/bytes.h"
 #include "values/coerce.h"
 #include "values/cray.h"
 #include "values/hint.h"
@@ -51,7 +54,7 @@ static double add(double x, double y) { return x + y; }
 
 static CellRef joincrays(Cell* x, Cell* y) {
   uint64_t slots = cellfield(x) + cellfield(y);
-  return slots < CELLFIELDLIMIT ? crayconcat(x, y) : failure();
+  return slots < cellfieldlimit ? crayconcat(x, y) : failure();
 }
 
 static CellRef joinposts(Cell* x, Cell* y) { return postjoin(postbytes(x), postbytes(y)); }
@@ -214,13 +217,13 @@ CellRef valuemult(Cell* x, Cell* y) {
 static double divide(double x, double y) { return x / y; }  // by zero: the IEEE result
 
 static CellRef append(Cell* x, Cell* y) {
-  return cellfield(x) == CELLFIELDLIMIT - 1 ? failure() : crayappend(x, y);
+  return cellfield(x) == cellfieldlimit - 1 ? failure() : crayappend(x, y);
 }
 
 // `over x y` or `powa x y`, where x is an array that may grow in place.
 static bool appendshere(const Cell* f) {
   const Cell* x = secondlastarg(f);
-  if (cellbyte(x) != '\n' || cellfield(x) >= CELLFIELDLIMIT - 1) return false;
+  if (cellbyte(x) != '\n' || cellfield(x) >= cellfieldlimit - 1) return false;
   return ownsfirst(f, 2) && cellkind(lastarg(f)) != 'e';
 }
 
@@ -255,7 +258,7 @@ CellRef& callover(CellRef& out, CellRef f) {
 static double modulo(double x, double y) { return std::fmod(x, y); }
 
 static CellRef prepend(Cell* x, Cell* y) {
-  return cellfield(y) == CELLFIELDLIMIT - 1 ? failure() : crayprepend(x, y);
+  return cellfield(y) == cellfieldlimit - 1 ? failure() : crayprepend(x, y);
 }
 
 CellRef valuecent(Cell* x, Cell* y) {
@@ -277,8 +280,8 @@ CellRef valuecent(Cell* x, Cell* y) {
 
 static double power(double x, double y) { return std::pow(x, y); }
 
-// On purpose: unlike "/" and "%" this stops one slot later than the count in the header can tell, so
-// that an array of 0x3ffffff slots grows to one that counts 0.
+// On purpose: unlike "/" and "%" this stops one slot later than the count in the header can tell,
+// so that an array of 0x3ffffff slots grows to one that counts 0.
 static CellRef appendlate(Cell* x, Cell* y) { return crayappend(x, y); }
 
 static CellRef powa(Cell* x, Cell* y) {
@@ -305,12 +308,7 @@ CellRef& callpowa(CellRef& out, CellRef f) {
 static CellRef firstofpost(Cell* x) {
   Bytes payload = postbytes(x);
   if (payload.n == 0) return failure();
-  switch (payload.at[0]) {
-    case '\n': return leafcstr("[[p]]");
-    case '[': return leafcstr("[[q]]");
-    case ']': return leafcstr("[[r]]");
-    default: return zitsmake({payload.at, 1});
-  }
+  return escapeletter(payload.at[0]) != 0 ? zitsofescape(payload.at[0]) : zitsmake({payload.at, 1});
 }
 
 static CellRef restofpost(Cell* x) {
@@ -348,7 +346,7 @@ static CellRef rankofcray(Cell* x) { return hintfrom(crayslots(x)); }
 static CellRef rankofreal(Cell*) { return hintfrom(8); }
 static CellRef rankofzits(Cell* x) { return hintfrom(zitslength(x) - 2); }
 
-// Of the digits as they stand: the zero of a sign and those of a numb count.
+// On purpose: of the digits as they stand, so that the zero of a sign and those of a numb count.
 static CellRef rankofnumber(Cell* x) {
   return isnumber(x) ? hintfrom(hinttext(x).len()) : failure();
 }

@@ -14,8 +14,8 @@ CellRef valuebuck(Cell* x);           // $
 CellRef valuewave(Cell* x);           // ~
 CellRef valuerank(Cell* x);           // the length
 
-// `/` and `^`, which append to arrays: one that nothing else holds grows where it is, so that a loop
-// of appends costs what its steps cost.
+// `/` and `^`, which append to arrays: an array that nothing else holds grows where it is, so that
+// a loop of appends costs what its steps cost.
 CellRef& callover(CellRef& out, CellRef application);
 CellRef& callpowa(CellRef& out, CellRef application);
 

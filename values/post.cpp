@@ -2,6 +2,7 @@
 #include "values/post.h"
 
 #include "foundation/alphabet.h"
+#include "values/pairs.h"
 
 namespace tarn {
 
@@ -56,32 +57,18 @@ int64_t postsplit(int64_t n) {
 
 static CellRef bitleaf(uint8_t b, int bit) { return leafbyte((b >> bit & 1) != 0 ? 'I' : 'H'); }
 
-static CellRef joined(uint8_t head, CellRef p, CellRef q) {
-  return cellpairtake(cellpairtake(leafbyte(head), std::move(p)), std::move(q));
-}
-
 // The bits high and high - 1.
 static CellRef twobits(uint8_t b, int high) {
-  return joined('J', bitleaf(b, high), bitleaf(b, high - 1));
+  return twofold('J', bitleaf(b, high), bitleaf(b, high - 1));
 }
 
 static CellRef fourbits(uint8_t b, int high) {
-  return joined('J', twobits(b, high), twobits(b, high - 2));
+  return twofold('J', twobits(b, high), twobits(b, high - 2));
 }
 
-CellRef bytetree(uint8_t b) { return joined('V', fourbits(b, 7), fourbits(b, 3)); }
+CellRef bytetree(uint8_t b) { return twofold('V', fourbits(b, 7), fourbits(b, 3)); }
 
 // --- Trees back to bytes -------------------------------------------------------------------------
-
-// x is `head p q`; gives p and q, lent.
-static bool isjoined(const Cell* x, char head, Cell*& p, Cell*& q) {
-  if (cellisleaf(x) || cellisleaf(leftlink(x)) || !leafisbyte(leftlink(leftlink(x)), head)) {
-    return false;
-  }
-  p = rightlink(leftlink(x));
-  q = rightlink(x);
-  return true;
-}
 
 static bool bitofleaf(const Cell* x, uint8_t& byte) {
   if (!leafisbyte(x, 'I') && !leafisbyte(x, 'H')) return false;
@@ -89,28 +76,21 @@ static bool bitofleaf(const Cell* x, uint8_t& byte) {
   return true;
 }
 
-// Shifts the 2 to the power of depth bits of x into byte.
+// Shifts the bits of x, 2 to the power of depth of them, into byte.
 static bool bitsoftree(const Cell* x, int depth, uint8_t& byte) {
   if (depth == 0) return bitofleaf(x, byte);
-  Cell* p = nullptr;
-  Cell* q = nullptr;
-  if (!isjoined(x, 'J', p, q)) return false;
-  return bitsoftree(p, depth - 1, byte) && bitsoftree(q, depth - 1, byte);
+  return istwofold(x, 'J') && bitsoftree(firstof(x), depth - 1, byte) &&
+         bitsoftree(secondof(x), depth - 1, byte);
 }
 
 static bool byteoftree(const Cell* x, uint8_t& byte) {
-  Cell* p = nullptr;
-  Cell* q = nullptr;
-  if (!isjoined(x, 'V', p, q)) return false;
-  return bitsoftree(p, 2, byte) && bitsoftree(q, 2, byte);
+  return istwofold(x, 'V') && bitsoftree(firstof(x), 2, byte) &&
+         bitsoftree(secondof(x), 2, byte);
 }
 
 bool bytesoftree(const Cell* x, std::vector<uint8_t>& out) {
-  Cell* p = nullptr;
-  Cell* q = nullptr;
-  while (isjoined(x, 'J', p, q)) {
-    if (!bytesoftree(p, out)) return false;
-    x = q;
+  for (; istwofold(x, 'J'); x = secondof(x)) {
+    if (!bytesoftree(firstof(x), out)) return false;
   }
   if (leafisbyte(x, 'K')) return true;
   uint8_t byte = 0;

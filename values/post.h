@@ -1,5 +1,5 @@
-// A post: a string of any bytes with a stored length, in one leaf. It is what goes to and comes from
-// files and the C library.
+// A post: a string of any bytes with a stored length, in one leaf. It is what goes to files and the
+// C library, and what comes from them.
 //
 //   header, '(', length in base-64 digits, ')', payload, 0
 //
@@ -26,16 +26,16 @@ Str posttext(const Cell* x);
 
 CellRef postjoin(Bytes a, Bytes b);
 
-// A post of two bytes or more as a tree: the left part has the largest power of two of bytes that is
-// less than all of them.
+// Where a post of n bytes, two or more, is cut when it is seen as a tree: behind so many bytes as
+// the largest power of two that is below n.
 int64_t postsplit(int64_t n);
 
 // The bits of one byte as a tree, the highest first, `I` for 1 and `H` for 0:
 // V (J (J b7 b6) (J b5 b4)) (J (J b3 b2) (J b1 b0))
 CellRef bytetree(uint8_t b);
 
-// `init` reads such trees: appends the bytes of x to out, from left to right. x is `K` for none, a
-// byte's tree, or `J p q` of two of these; of any other shape it gives false.
+// Appends the bytes of such trees to out, from left to right. x is `K` for none, the tree of a
+// byte, or `J p q` of two of these; of any other shape the answer is false.
 bool bytesoftree(const Cell* x, std::vector<uint8_t>& out);
 
 }  // namespace tarn

@@ -4,7 +4,9 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "foundation/str.h"
 #include "values/answer.h"
+#include "values/pairs.h"
 #include "values/post.h"
 #include "values/real.h"
 #include "values/zits.h"
@@ -17,13 +19,6 @@ namespace tarn {
 //   byte     V four four, the low four bits first
 //   four     V (V bit bit) (V bit bit), the lowest bit first; K for 1 and H for 0
 
-static bool isfork(const Cell* x) {
-  return cellispair(x) && cellispair(leftlink(x)) && leafisbyte(leftlink(leftlink(x)), 'V');
-}
-
-static const Cell* forkleft(const Cell* x) { return rightlink(leftlink(x)); }
-static const Cell* forkright(const Cell* x) { return rightlink(x); }
-
 // The value of 2^depth bits, lowest first. Below the top of a byte all must be well formed.
 static int bitsofforks(const Cell* x, int depth) {
   if (depth == 0) {
@@ -31,21 +26,21 @@ static int bitsofforks(const Cell* x, int depth) {
     check(set || leafisbyte(x, 'H'));
     return set;
   }
-  check(isfork(x));
-  int low = bitsofforks(forkleft(x), depth - 1);
-  int high = bitsofforks(forkright(x), depth - 1);
+  check(istwofold(x, 'V'));
+  int low = bitsofforks(firstof(x), depth - 1);
+  int high = bitsofforks(secondof(x), depth - 1);
   return low | high << (1 << (depth - 1));
 }
 
-// Writes 2^depth bytes; false if x has another shape.
+// Writes the 2^depth bytes of x; false if x has another shape.
 static bool bytesofforks(const Cell* x, int depth, uint8_t* out) {
-  if (!isfork(x)) return false;
+  if (!istwofold(x, 'V')) return false;
   if (depth == 0) {
     *out = static_cast<uint8_t>(bitsofforks(x, 3));
     return true;
   }
-  return bytesofforks(forkleft(x), depth - 1, out) &&
-         bytesofforks(forkright(x), depth - 1, out + (1 << (depth - 1)));
+  return bytesofforks(firstof(x), depth - 1, out) &&
+         bytesofforks(secondof(x), depth - 1, out + (1 << (depth - 1)));
 }
 
 static CellRef realoftree(const Cell* x) {
@@ -68,8 +63,7 @@ CellRef valuereal(Cell* x) {
     case 'u': return realoftext(zitstext(x));
     default: break;
   }
-  CellRef made = truecast(x);
-  return made.null() ? failure() : made;
+  return orfailure(truecast(x));
 }
 
 }  // namespace tarn

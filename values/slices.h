@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <cstring>
 
 #include "values/bytes.h"
 
@@ -15,8 +14,8 @@ struct Cut {
   bool good;  // false: there are fewer items than should go
 };
 
-// Of length items, a positive n takes away the first n, any other the last -n. The magnitude is taken
-// unsigned, for the lowest n there is.
+// Of `length` items a positive n takes away the first n, any other n the last -n. The magnitude is
+// worked out unsigned, so that the lowest n there is has one.
 inline Cut cutof(int64_t n, int64_t length) {
   uint64_t count = n < 0 ? 0 - static_cast<uint64_t>(n) : static_cast<uint64_t>(n);
   if (count > static_cast<uint64_t>(length)) return {0, 0, false};
@@ -24,7 +23,8 @@ inline Cut cutof(int64_t n, int64_t length) {
   return n > 0 ? Cut{gone, length, true} : Cut{0, length - gone, true};
 }
 
-// The bytes of n copies; where there cannot be so many, more than malloc grants.
+// The number of bytes in n copies; where no memory can hold them, one that malloc refuses, and that
+// does not wrap when a little is added.
 inline int64_t repeatedsize(int64_t length, int64_t n) {
   int64_t size = 0;
   constexpr int64_t impossible = INT64_MAX - 64;

@@ -1,12 +1,17 @@
 // Text forms: escapes, the text of numbers and arrays, and the tree form `V (X J) tree`.
 #include "values/texts.h"
 
+#include <cstring>
 #include <vector>
 
+#include "foundation/escapes.h"
+#include "foundation/str.h"
 #include "frontend/printer.h"
 #include "values/answer.h"
+#include "values/bytes.h"
 #include "values/coerce.h"
 #include "values/cray.h"
+#include "values/pairs.h"
 #include "values/post.h"
 #include "values/real.h"
 #include "values/zits.h"
@@ -27,27 +32,25 @@ static void append(std::vector<uint8_t>& text, Bytes more) {
 
 // --- cape ----------------------------------------------------------------------------------------
 
-// On purpose: a newline is not escaped on this way, only on the way back and by `$`.
+// On purpose: a newline stays as it is here, though the way back and `$` know its escape.
 static CellRef escaped(Bytes payload) {
   std::vector<uint8_t> text;
   text.reserve(static_cast<size_t>(payload.n));
   for (int64_t i = 0; i < payload.n; i++) {
-    if (payload.at[i] == '[') append(text, "[q]");
-    else if (payload.at[i] == ']') append(text, "[r]");
-    else text.push_back(payload.at[i]);
+    uint8_t c = payload.at[i];
+    uint8_t letter = c == '\n' ? 0 : escapeletter(c);
+    if (letter == 0) {
+      text.push_back(c);
+    } else {
+      text.insert(text.end(), {'[', letter, ']'});
+    }
   }
   return zitsmake(writtenbytes(text));
 }
 
-// The byte that an escape at the start of content stands for; -1 if there is none.
-static int escapedbyte(const uint8_t* content, int64_t n) {
-  if (n < 3 || content[2] != ']') return -1;
-  switch (content[1]) {
-    case 'p': return '\n';
-    case 'q': return '[';
-    case 'r': return ']';
-    default: return -1;
-  }
+// The byte that an escape at the start of the content stands for; -1 if there is none.
+static int32_t escapeat(const uint8_t* content, int64_t n) {
+  return n < 3 || content[2] != ']' ? -1 : escapedbyte(content[1]);
 }
 
 static CellRef unescaped(Bytes content) {
@@ -57,7 +60,7 @@ static CellRef unescaped(Bytes content) {
     uint8_t c = content.at[i];
     if (c == ']') return failure();
     if (c == '[') {
-      int byte = escapedbyte(content.at + i, content.n - i);
+      int32_t byte = escapeat(content.at + i, content.n - i);
       if (byte < 0) return failure();
       c = static_cast<uint8_t>(byte);
       i += 2;
@@ -82,14 +85,12 @@ static CellRef zitsofpost(Cell* x) {
   return newline || !isbalanced(payload) ? failure() : zitsmake(payload);
 }
 
-// On purpose: the test for a bracket is on the whole number, so that 347, whose low byte is the one
-// of "[", makes a text out of balance.
+// On purpose: it is the whole number that is compared with a bracket, so that 347, whose low byte
+// is that of "[", makes a text out of balance.
 static CellRef zitsofhint(Cell* x) {
   int64_t n = hintsmall(x);
-  if (n == '[') return leafcstr("[[q]]");
-  if (n == ']') return leafcstr("[[r]]");
   uint8_t byte = static_cast<uint8_t>(n);
-  return zitsmake({&byte, 1});
+  return n == '[' || n == ']' ? zitsofescape(byte) : zitsmake({&byte, 1});
 }
 
 static void appendcray(std::vector<uint8_t>& text, const Cell* x);
@@ -118,23 +119,15 @@ static CellRef zitsofcray(const Cell* x) {
 
 // The tree of `V (X J) tree`, lent; null for any other shape.
 static Cell* treeofform(const Cell* x) {
-  if (cellisleaf(x) || cellisleaf(leftlink(x))) return nullptr;
-  const Cell* form = leftlink(x);
-  if (!leafisbyte(leftlink(form), 'V') || cellisleaf(rightlink(form))) return nullptr;
-  const Cell* mark = rightlink(form);
-  bool marked = leafisbyte(leftlink(mark), 'X') && leafisbyte(rightlink(mark), 'J');
-  return marked ? rightlink(x) : nullptr;
+  if (!istwofold(x, 'V')) return nullptr;
+  const Cell* mark = firstof(x);
+  bool marked = cellispair(mark) && leafisbyte(leftlink(mark), 'X') &&
+                leafisbyte(rightlink(mark), 'J');
+  return marked ? secondof(x) : nullptr;
 }
 
 static CellRef formoftree(Cell* tree) {
-  CellRef mark = cellpairtake(leafbyte('X'), leafbyte('J'));
-  return cellpairtake(cellpairtake(leafbyte('V'), std::move(mark)), cellcopy(tree));
-}
-
-// `J left right`.
-static bool isjoined(const Cell* tree) {
-  return cellispair(tree) && cellispair(leftlink(tree)) &&
-         leafisbyte(leftlink(leftlink(tree)), 'J');
+  return twofold('V', cellpairtake(leafbyte('X'), leafbyte('J')), cellcopy(tree));
 }
 
 static CellRef zitsofform(const Cell* x) {
@@ -157,15 +150,15 @@ CellRef valuezits(Cell* x) {
 CellRef valueleft(Cell* x) {
   if (cellkind(x) == 'u') return zitsleft(x);
   Cell* tree = treeofform(x);
-  bool joined = tree != nullptr && isjoined(tree);
-  return joined ? formoftree(rightlink(leftlink(tree))) : failure();
+  bool joined = tree != nullptr && istwofold(tree, 'J');
+  return joined ? formoftree(firstof(tree)) : failure();
 }
 
 CellRef valuerght(Cell* x) {
   if (cellkind(x) == 'u') return zitsright(x);
   Cell* tree = treeofform(x);
-  bool joined = tree != nullptr && isjoined(tree);
-  return joined ? formoftree(rightlink(tree)) : failure();
+  bool joined = tree != nullptr && istwofold(tree, 'J');
+  return joined ? formoftree(secondof(tree)) : failure();
 }
 
 CellRef valueleaf(Cell* x) {
@@ -173,7 +166,7 @@ CellRef valueleaf(Cell* x) {
   Cell* tree = treeofform(x);
   if (tree == nullptr) return failure();
   if (leafisbyte(tree, 'K')) return truthleaf(true);
-  return isjoined(tree) ? truthleaf(false) : failure();
+  return istwofold(tree, 'J') ? truthleaf(false) : failure();
 }
 
 // --- init ----------------------------------------------------------------------------------------

@@ -1,10 +1,13 @@
 // The two forms of bracket text, and the trees that they stand for.
 #include "values/zits.h"
 
+#include <utility>
 #include <vector>
 
 #include "foundation/codemap.h"
+#include "foundation/escapes.h"
 #include "values/answer.h"
+#include "values/pairs.h"
 
 namespace tarn {
 
@@ -20,6 +23,11 @@ CellRef zitsmake(Bytes content) {
   CellRef made = zitssized(content.n, out);
   putbytes(out, content);
   return made;
+}
+
+CellRef zitsofescape(uint8_t byte) {
+  const uint8_t item[] = {'[', escapeletter(byte), ']'};
+  return zitsmake({item, sizeof item});
 }
 
 Bytes flattext(const Cell* flat) { return {leafbytes(flat), cellsize(flat)}; }
@@ -43,28 +51,28 @@ bool isbalanced(Bytes content) {
 // --- Flattening ----------------------------------------------------------------------------------
 //
 // The text is written from left to right over a work list, since ropes grow as deep as they are
-// long. A Pair is: its left part; without the closing bracket, its right part; as one byte if that
-// came out as the word of one, and a closing bracket.
+// long. Of a Pair the left part is written first and loses its closing bracket; then the right part
+// is written, becomes one byte if it came out as the word of one, and a bracket closes the whole.
 
 namespace {
 
 constexpr size_t longestcode = 24;  // no byte has a longer word
 
 struct Flattening {
-  enum Work { PART, OPEN, CLOSE };
+  enum Work { apart, opening, closing };  // write a part; begin and end the right part of a Pair
   struct Step {
     Work work;
-    const Cell* part;
+    const Cell* part;  // lent; null but for apart
   };
-  std::vector<uint8_t> text;
+  std::vector<uint8_t> text;   // what has been written
   std::vector<size_t> starts;  // where the items that are being written began
   std::vector<Step> steps;     // what is still to do, the next one last
 
   void pair(const Cell* left, const Cell* right) {
-    steps.push_back({CLOSE, nullptr});
-    steps.push_back({PART, right});
-    steps.push_back({OPEN, nullptr});
-    steps.push_back({PART, left});
+    steps.push_back({closing, nullptr});
+    steps.push_back({apart, right});
+    steps.push_back({opening, nullptr});
+    steps.push_back({apart, left});
   }
   void append(Bytes more) { text.insert(text.end(), more.at, more.at + more.n); }
   void open() {
@@ -89,12 +97,12 @@ struct Flattening {
 }  // namespace
 
 static void flattenparts(Flattening& flattening, const Cell* x) {
-  flattening.steps.push_back({Flattening::PART, x});
+  flattening.steps.push_back({Flattening::apart, x});
   while (!flattening.steps.empty()) {
     auto [work, part] = flattening.steps.back();
     flattening.steps.pop_back();
-    if (work == Flattening::OPEN) flattening.open();
-    else if (work == Flattening::CLOSE) flattening.close();
+    if (work == Flattening::opening) flattening.open();
+    else if (work == Flattening::closing) flattening.close();
     else if (cellisleaf(part)) flattening.append(flattext(part));
     else flattening.pair(leftlink(part), rightlink(part));
   }
@@ -171,10 +179,6 @@ CellRef zitsright(Cell* x) {
 
 // --- Trees ---------------------------------------------------------------------------------------
 
-static CellRef joined(CellRef left, CellRef right) {
-  return cellpairtake(cellpairtake(leafbyte('J'), std::move(left)), std::move(right));
-}
-
 static CellRef treeoftext(Bytes text);
 
 static CellRef treeofbyte(uint8_t c) {
@@ -200,7 +204,7 @@ static CellRef treeoftext(Bytes text) {
       check(i + 1 == text.n);
       return item;
     }
-    groups.back() = joined(std::move(groups.back()), std::move(item));
+    groups.back() = twofold('J', std::move(groups.back()), std::move(item));
   }
   fail(__FILE__, __LINE__);
 }
@@ -208,22 +212,18 @@ static CellRef treeoftext(Bytes text) {
 CellRef zitstree(Cell* x) {
   check(cellisdata(x));
   if (cellisleaf(x)) return treeoftext(flattext(x));
-  return joined(zitstree(leftlink(x)), zitstree(rightlink(x)));
-}
-
-static bool isjoined(const Cell* x) {
-  return cellispair(x) && cellispair(leftlink(x)) && leafisbyte(leftlink(leftlink(x)), 'J');
+  return twofold('J', zitstree(leftlink(x)), zitstree(rightlink(x)));
 }
 
 CellRef zitsoftree(Cell* tree) {
   Flattening flattening;
-  flattening.steps.push_back({Flattening::PART, tree});
+  flattening.steps.push_back({Flattening::apart, tree});
   while (!flattening.steps.empty()) {
     auto [work, part] = flattening.steps.back();
     flattening.steps.pop_back();
-    if (work == Flattening::OPEN) flattening.open();
-    else if (work == Flattening::CLOSE) flattening.close();
-    else if (isjoined(part)) flattening.pair(rightlink(leftlink(part)), rightlink(part));
+    if (work == Flattening::opening) flattening.open();
+    else if (work == Flattening::closing) flattening.close();
+    else if (istwofold(part, 'J')) flattening.pair(firstof(part), secondof(part));
     else if (leafisbyte(part, 'K')) flattening.append({reinterpret_cast<const uint8_t*>("[]"), 2});
     else return failure();
   }

@@ -8,8 +8,8 @@
 // byte, and a byte is short for its bracket word (codemap.h): so the rope of "[a]" and the word of
 // "b" is the text "[ab]", and the rope of "[a]" and "[b]" is "[a[b]]". A rope is never empty.
 //
-// On purpose, content may be out of balance: a cut and `cork` do not look at it. Such a zits prints,
-// joins and compares by its bytes like any other; taking it apart is a program fault.
+// On purpose: content may be out of balance, as a cut and `cork` do not look at it. Such a zits
+// prints, joins and compares by its bytes like any other; taking it apart is a program fault.
 //
 // Arguments are lent and must be data; answers are given.
 #pragma once
@@ -21,6 +21,8 @@
 namespace tarn {
 
 CellRef zitsmake(Bytes content);
+// The zits of one item, the escape of a byte that has one (escapes.h): "[[q]]" for "[".
+CellRef zitsofescape(uint8_t byte);
 // A flat zits with n bytes of content that are not set yet; out is where they go.
 CellRef zitssized(int64_t n, uint8_t*& out);
 
@@ -30,8 +32,8 @@ Bytes flatcontent(const Cell* flat);
 
 // The flat form: x itself if it is flat. Costs what the text is long.
 CellRef zitsflat(Cell* x);
-Str zitstext(Cell* x);       // the content
-int64_t zitslength(Cell* x); // of the whole text, with its outer brackets
+Str zitstext(Cell* x);        // the content
+int64_t zitslength(Cell* x);  // of the whole text, with its outer brackets
 bool zitsempty(const Cell* x);
 
 // Every bracket has its partner. What is not so can still be content, see above.

@@ -28,7 +28,9 @@ struct Ended {
 std::string drain(int fd) {
   std::string got;
   char piece[65536];
-  for (ssize_t n; (n = read(fd, piece, sizeof piece)) > 0;) got.append(piece, static_cast<size_t>(n));
+  for (ssize_t n; (n = read(fd, piece, sizeof piece)) > 0;) {
+    got.append(piece, static_cast<size_t>(n));
+  }
   close(fd);
   return got;
 }
@@ -121,7 +123,8 @@ TEST(Diag, ChunksAreOf4096Bytes) {
   EXPECT_EQ(writesizes([] { outstream << filled(4096); }), (std::vector<int64_t>{4096}));
   EXPECT_EQ(writesizes([] { outstream << filled(4097); }), (std::vector<int64_t>{4096, 1}));
   EXPECT_EQ(writesizes([] { outstream << filled(0); }), (std::vector<int64_t>{}));
-  EXPECT_EQ(writesizes([] { outstream << filled(9000).text(); }), (std::vector<int64_t>{4096, 4096, 808}));
+  EXPECT_EQ(writesizes([] { outstream << filled(9000).text(); }),
+            (std::vector<int64_t>{4096, 4096, 808}));
 }
 
 TEST(Diag, StreamsChainAndKeepNuls) {

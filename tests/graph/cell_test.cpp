@@ -55,7 +55,7 @@ TEST(CellTest, ApplicationsAreToTheLeft) {
 
 TEST(CellTest, LeafHasItsTextBehindTheHeaderAndANul) {
   CellRef leaf = leafcstr("plus");
-  EXPECT_EQ(static_cast<Cell*>(leaf)->header, CELLLEAF | 1);
+  EXPECT_EQ(static_cast<Cell*>(leaf)->header, cellleafbit | 1);
   EXPECT_EQ(memcmp(static_cast<Cell*>(leaf) + 1, "plus", 5), 0);
 }
 
@@ -86,6 +86,7 @@ TEST(CellTest, MakersOfLeaves) {
   EXPECT_EQ(textof(leafbyte('K')), "K");
   EXPECT_EQ(textof(leafdigits(0)), "0");
   EXPECT_EQ(textof(leafdigits(18446744073709551615u)), "18446744073709551615");
+  EXPECT_EQ(textof(leafdigits(7, true)), "07");
   EXPECT_EQ(cellfield(leafdigits(100)), 3u);
 }
 
@@ -188,16 +189,16 @@ TEST(CellDeathTest, NullAndLeavesAreRefused) {
 TEST(CellDeathTest, ABillionReferencesAreTheLimit) {
   CellRef leaf = leafcstr("a");
   Cell* c = leaf;
-  c->header += CELLREFS - 1;
+  c->header += cellrefsmask - 1;
   EXPECT_EQ(cellrefs(c), 1073741823u);
   EXPECT_FAILS(cellcopy(c), "graph/cell.h");
-  c->header -= CELLREFS - 1;
+  c->header -= cellrefsmask - 1;
 }
 
 TEST(CellTest, SettingArityAndFieldLeavesTheRestOfTheHeader) {
   CellRef leaf = leafcstr("abc");
   Cell* c = leaf;
-  c->header |= CELLFLAG;
+  c->header |= cellflagbit;
   setarity(c, 11);
   EXPECT_EQ(tagbyte(c), 0x80 | 0x40 | 63);
   setarity(c, -52);

@@ -10,12 +10,6 @@
 
 namespace tarn {
 
-#ifdef __SANITIZE_ADDRESS__
-constexpr int DEPTH = 100000;
-#else
-constexpr int DEPTH = 1000000;
-#endif
-
 struct ReduceTest : testing::Test {
   void SetUp() override { loadtestdefs(); }
   void TearDown() override {
@@ -382,8 +376,9 @@ static std::string randomterm(unsigned& seed, int n, int bound) {
     seed = seed * 1103515245u + 12345u;
     return static_cast<int>((seed >> 16) % static_cast<unsigned>(sides));
   };
-  static const char* const atoms[] = {"K", "I", "S", "B", "C",    "T",    "V",    "J",   "W",   "H",  "Z",
-                                      "+", "&", "1", "2", "plus", "tell", "less", "con", "fun", "T 1"};
+  static const char* const atoms[] = {"K", "I", "S", "B",    "C",    "T",    "V",
+                                      "J", "W", "H", "Z",    "+",    "&",    "1",
+                                      "2", "plus", "tell", "less", "con", "fun", "T 1"};
   if (n <= 1) {
     if (bound > 0 && roll(3) == 0) return std::string(1, static_cast<char>('a' + roll(bound)));
     return atoms[roll(static_cast<int>(sizeof atoms / sizeof atoms[0]))];

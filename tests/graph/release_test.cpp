@@ -7,12 +7,6 @@
 
 namespace tarn {
 
-#ifdef __SANITIZE_ADDRESS__
-constexpr int DEPTH = 100000;
-#else
-constexpr int DEPTH = 1000000;
-#endif
-
 static int64_t alive() { return cellcounts().alive; }
 
 TEST(ReleaseTest, DropsOnlyWhatNobodyElseHolds) {

@@ -6,12 +6,6 @@
 
 namespace tarn {
 
-#ifdef __SANITIZE_ADDRESS__
-constexpr int DEPTH = 100000;
-#else
-constexpr int DEPTH = 1000000;
-#endif
-
 struct ShapeTest : testing::Test {
   void SetUp() override { loadtestdefs(); }
   void TearDown() override { defclear(); }

@@ -11,6 +11,13 @@
 
 namespace tarn {
 
+// How deep the terms are nested that nothing may die of.
+#ifdef __SANITIZE_ADDRESS__
+inline constexpr int DEPTH = 100000;
+#else
+inline constexpr int DEPTH = 1000000;
+#endif
+
 CellRef term(const std::string& text);
 std::string shown(Cell* c);  // back again, with the brackets that are needed
 

@@ -1,5 +1,5 @@
-// Indexed access: which values `cork`, `over` and `powa` change in place. What they answer is told by
-// programs, in tests/language/arrays.cases.
+// Indexed access: which values `cork`, `over` and `powa` change in place. What they answer is told
+// by programs, in tests/language/arrays.cases.
 #include "values/access.h"
 
 #include <gtest/gtest.h>
@@ -39,7 +39,8 @@ CellRef corked(CellRef application) {
 
 // The three kinds that can be changed in place.
 std::vector<CellRef> changeables() {
-  return {postmake(strbytes(Str("abc"))), leafcstr("[abc]"), crayappend(crayempty(), leafbyte('a'))};
+  return {postmake(strbytes(Str("abc"))), leafcstr("[abc]"),
+          crayappend(crayempty(), leafbyte('a'))};
 }
 
 TEST_F(Access, CorkChangesWhatNobodyElseHolds) {
