@@ -1,14 +1,16 @@
 // The checking build (-DTARN_CHECKING=ON): what it does otherwise than the build that users get, in
 // the few places that ask here. Elsewhere all of it is constant and leaves no code behind.
 //
-//   - what one reference allows, a change in place instead of a copy, is never done: `alone` is false
-//   - the blocks of cells and Strs come from the graveyard below, which finds uses after their death
+//   - what one reference allows, a change in place instead of a copy, is never done: `alone` is
+//     false
+//   - the blocks of cells and Strs come from the graveyard below, which finds uses after their
+//     death
 //   - cellhold and its like, and Str, refuse what is dead at once; live Strs are counted
 //
-// A block that is given up is filled with `deadword`, and kept for a while. It is tested when it goes
-// back to malloc in the end, and by checkdead: a byte that has changed is a program fault. As a
-// header the word has no references, as an address it faults, as a length it is beyond all memory.
-// A fresh block is filled as well, so that nothing can lean on what stood there before.
+// A block that is given up is filled with `deadword`, and kept for a while. It is tested when it
+// goes back to malloc in the end, and by checkdead: a byte that has changed is a program fault. As
+// a header the word has no references, as an address it faults, as a length it is beyond all
+// memory. A fresh block is filled as well, so that nothing can lean on what stood there before.
 #pragma once
 
 #include <cstddef>

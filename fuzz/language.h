@@ -15,8 +15,8 @@ void fuzzinstall();
 
 // Takes the text through brackets, tidying, parsing, checks and an evaluation of some thousand
 // steps, and gives what it shows: the value, or the place and the message of the report. A crash is
-// for the sanitizers to tell; a cell that is lost, a tidy text that is not tidy, and a report without
-// words end the process here.
+// for the sanitizers to tell; a cell that is lost, a tidy text that is not tidy, and a report
+// without words end the process here.
 std::string fuzzprogram(const std::string& text);
 
 // Whether a term is short enough to show. A small graph can be an endless text.

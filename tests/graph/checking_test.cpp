@@ -1,5 +1,6 @@
 // What the checking build finds when something goes on using a cell after its last reference: that
-// it is held, given up or described, that its links are followed, and that anything is written there.
+// it is held, given up or described, that its links are followed, and that anything is written
+// there.
 #include "foundation/checking.h"
 
 #include <gtest/gtest.h>

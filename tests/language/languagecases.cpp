@@ -43,8 +43,8 @@ bool kept(const char* what, int64_t before, int64_t after) {
   return before == after;
 }
 
-// The builtin `leak` keeps its argument alive for good; no other program may lose a cell. Nor a Str,
-// but that the first run leaves a record of each name that no program before had used.
+// The builtin `leak` keeps its argument alive for good; no other program may lose a cell. Nor a
+// Str, but that the first run leaves a record of each name that no program before had used.
 bool runcase(const Case& c, bool again) {
   current = c.where;
   bool leaks = c.program.find("leak") != c.program.npos;
