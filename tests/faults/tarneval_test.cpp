@@ -69,6 +69,27 @@ TEST_F(Tarneval, TellsWhatItCannotOpen) {
   EXPECT_TRUE(ended(done, 1));
 }
 
+TEST_F(Tarneval, TellsItsUsage) {
+  for (const char* arguments : {"--help", "one two", "--stats -x", "one --stats two"}) {
+    Outcome done = shell(std::string(TARNEVAL " ") + arguments + " </dev/null");
+    EXPECT_EQ(done.said, "usage: tarneval [--stats] [file]\n") << arguments;
+    EXPECT_TRUE(ended(done, 2)) << arguments;
+  }
+}
+
+TEST_F(Tarneval, TellsWhatAProgramTook) {
+  std::ofstream(path) << "1+2";
+  Outcome done = shell(TARNEVAL " --stats " + path);
+  EXPECT_TRUE(ended(done, 0));
+  std::istringstream lines(done.said);
+  std::string line;
+  for (const char* start : {"3", "steps ", "cells made ", "peak cells ", "seconds 0."}) {
+    ASSERT_TRUE(std::getline(lines, line)) << start;
+    EXPECT_EQ(line.rfind(start, 0), 0u) << line;
+  }
+  EXPECT_FALSE(std::getline(lines, line)) << line;
+}
+
 TEST_F(Tarneval, EvaluatesNoHalfOfAProgram) {
   Outcome done = run("1+2", "read@Program:1:short=1 read@Program:2:EIO");
   EXPECT_EQ(done.said, "Cannot read file: " + path + "\n");
